@@ -1,0 +1,6 @@
+#include "Misc/CoreDelegates.h"
+
+FCoreDelegates::FShouldLaunchUrl FCoreDelegates::ShouldLaunchUrl;
+FSimpleMulticastDelegate FCoreDelegates::OnHandleSystemError;
+FSimpleMulticastDelegate FCoreDelegates::OnPostEngineInit;
+FSimpleMulticastDelegate FCoreDelegates::OnEnginePreExit;
