@@ -11,7 +11,7 @@ function(kestrix_module NAME)
 	set_target_properties(${NAME} PROPERTIES DEFINE_SYMBOL "")
 	target_include_directories(${NAME} PUBLIC Public PRIVATE Private)
 	target_link_libraries(${NAME} PUBLIC ${ARG_DEPENDS} PRIVATE ${ARG_PRIVATE_DEPENDS} ${ARG_LIBRARIES})
-	target_link_options(${NAME} PRIVATE -Wl,--no-undefined)
+	kestrix_refuse_undefined_symbols(${NAME})
 	kestrix_use_precompiled_header(${NAME} "${ARG_PCH}")
 
 	if(ARG_REFLECTED)
@@ -37,6 +37,13 @@ function(kestrix_module_tests NAME)
 		kestrix_reflect(${NAME}Tests FOLDERS Tests)
 	endif()
 	add_test(NAME ${NAME}Tests COMMAND ${NAME}Tests)
+endfunction()
+
+# A library must find all it calls in what it links, but for the sanitizers' own functions, which stand in the executable.
+function(kestrix_refuse_undefined_symbols TARGET)
+	if(NOT KESTRIX_SANITIZERS)
+		target_link_options(${TARGET} PRIVATE -Wl,--no-undefined)
+	endif()
 endfunction()
 
 # The precompiled header of <owner> (Core by default) for a target. Core's own sources use it too.

@@ -26,6 +26,14 @@ if(KESTRIX_SANITIZERS)
 	add_link_options(-fsanitize=${KESTRIX_SANITIZERS})
 endif()
 
+# The libraries of several builds of a plugin stand side by side in Binaries/Linux; each build knows its own by this suffix.
+set(KESTRIX_BUILD_SUFFIX "")
+if(KESTRIX_SANITIZERS)
+	set(KESTRIX_BUILD_SUFFIX "-Linux-Sanitizers")
+elseif(CMAKE_BUILD_TYPE STREQUAL "Debug")
+	set(KESTRIX_BUILD_SUFFIX "-Linux-Debug")
+endif()
+
 # The interpreter is the system's own, whatever else a PATH offers.
 set(Python3_EXECUTABLE /usr/bin/python3)
 set(Python3_FIND_STRATEGY LOCATION)
