@@ -1,0 +1,70 @@
+#include "Application/SlateFrame.h"
+
+#include "Application/FrameCalledWidgets.h"
+#include "Widgets/SWidget.h"
+
+namespace
+{
+constexpr double BeyondAllTime = 1e300;
+}
+
+FFrameCalledWidgets& FFrameCalledWidgets::Get()
+{
+	static FFrameCalledWidgets Instance;
+	return Instance;
+}
+
+void FFrameCalledWidgets::Add(SWidget& Widget)
+{
+	Widgets.AddUnique(&Widget);
+}
+
+void FFrameCalledWidgets::Remove(SWidget& Widget)
+{
+	Widgets.Remove(&Widget);
+}
+
+TArray<TWeakPtr<SWidget>> FFrameCalledWidgets::Snapshot() const
+{
+	TArray<TWeakPtr<SWidget>> Result;
+	Result.Reserve(Widgets.Num());
+	for (SWidget* Widget : Widgets)
+	{
+		Result.Add(Widget->AsShared());
+	}
+	return Result;
+}
+
+double SlateFrame::CallShownWidgets(double CurrentTime, float DeltaTime)
+{
+	double NextCallTime = BeyondAllTime;
+	for (const TWeakPtr<SWidget>& Entry : FFrameCalledWidgets::Get().Snapshot())
+	{
+		const TSharedPtr<SWidget> Widget = Entry.Pin();
+		if (!Widget.IsValid() || !Widget->IsShownInFrame())
+		{
+			continue;
+		}
+		if (Widget->GetCanTick())
+		{
+			Widget->Tick(Widget->GetTickSpaceGeometry(), CurrentTime, DeltaTime);
+			NextCallTime = CurrentTime;
+		}
+		NextCallTime = FMath::Min(NextCallTime, Widget->ExecuteActiveTimers(CurrentTime, DeltaTime));
+	}
+	return NextCallTime;
+}
+
+double SlateFrame::GetNextCallTime()
+{
+	double NextCallTime = BeyondAllTime;
+	for (const TWeakPtr<SWidget>& Entry : FFrameCalledWidgets::Get().Snapshot())
+	{
+		const TSharedPtr<SWidget> Widget = Entry.Pin();
+		if (Widget.IsValid() && Widget->IsShownInFrame())
+		{
+			NextCallTime = FMath::Min(NextCallTime, Widget->GetNextCallTime());
+		}
+	}
+	return NextCallTime;
+}

@@ -1,0 +1,63 @@
+#include "Fonts/SizedFont.h"
+
+#include "Fonts/CompositeFont.h"
+#include "Fonts/FontFace.h"
+#include "Fonts/FontSystem.h"
+
+namespace
+{
+
+/** Letters larger than this are drawn at this size: a glyph's picture has to stay within bounds. */
+constexpr double MaxPixelSize = 1024.0;
+
+FString GetFaceName(const FSlateFontInfo& FontInfo)
+{
+	if (!FontInfo.CompositeFont || FontInfo.CompositeFont->DefaultTypeface.Fonts.Num() == 0)
+	{
+		return TEXT("Roboto");
+	}
+	const TArray<FTypefaceEntry>& Faces = FontInfo.CompositeFont->DefaultTypeface.Fonts;
+	for (const FTypefaceEntry& Candidate : Faces)
+	{
+		if (Candidate.Name == FontInfo.TypefaceFontName)
+		{
+			return Candidate.Font.GetFontFilename();
+		}
+	}
+	return Faces[0].Font.GetFontFilename();
+}
+
+double GetPixelSize(const FSlateFontInfo& FontInfo, float Scale)
+{
+	const double Size = double(FontInfo.GetPixelSize()) * double(Scale);
+	return Size >= 1.0 ? FMath::Min(Size, MaxPixelSize) : 1.0;
+}
+
+}
+
+FSlateSizedFont::FSlateSizedFont(FSlateFontSystem& FontSystem, const FSlateFontInfo& InFontInfo, float InScale, uint32 InId)
+	: FontInfo(InFontInfo)
+	, Scale(InScale)
+	, Id(InId)
+	, Description(FontSystem.Describe(GetFaceName(InFontInfo), GetPixelSize(InFontInfo, InScale)))
+	, OutlineWidth(
+		  FMath::Clamp(FMath::RoundToInt(float(FMath::Clamp(InFontInfo.OutlineSettings.OutlineSize, 0, 256)) * InScale), 0, 256))
+{
+	PangoFont* Font = pango_font_map_load_font(FontSystem.GetFontMap(), FontSystem.GetContext(), Description);
+	Face = MakeShared<FSlateFontFace>(Font);
+	Analysis.font = Font;
+	Analysis.script = PANGO_SCRIPT_LATIN;
+	Analysis.gravity = PANGO_GRAVITY_SOUTH;
+	Analysis.language = pango_context_get_language(FontSystem.GetContext());
+
+	PangoFontMetrics* Metrics = pango_font_get_metrics(Font, Analysis.language);
+	Ascent = FMath::RoundToInt(double(pango_font_metrics_get_ascent(Metrics)) / PANGO_SCALE);
+	Descent = FMath::RoundToInt(double(pango_font_metrics_get_descent(Metrics)) / PANGO_SCALE);
+	pango_font_metrics_unref(Metrics);
+}
+
+FSlateSizedFont::~FSlateSizedFont()
+{
+	g_object_unref(Analysis.font);
+	pango_font_description_free(Description);
+}

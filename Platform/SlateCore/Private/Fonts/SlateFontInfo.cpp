@@ -1,0 +1,3 @@
+#include "Fonts/SlateFontInfo.h"
+
+const FFontOutlineSettings FFontOutlineSettings::NoOutline;

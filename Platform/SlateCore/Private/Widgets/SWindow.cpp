@@ -1,0 +1,182 @@
+#include "Widgets/SWindow.h"
+
+#include "Application/SlateApplicationBase.h"
+#include "Rendering/DrawElements.h"
+#include "Rendering/SlateRenderer.h"
+#include "Styling/AppStyle.h"
+#include "Styling/WidgetStyle.h"
+#include "Types/PaintArgs.h"
+
+SWindow::SWindow()
+{
+	SetClipping(EWidgetClipping::ClipToBounds);
+}
+
+SWindow::~SWindow() = default;
+
+void SWindow::Construct(const FArguments& InArgs)
+{
+	Title.Assign(*this, InArgs._Title);
+	AutoCenter = InArgs._AutoCenter;
+	ScreenPosition = InArgs._ScreenPosition;
+	Size = InArgs._ClientSize;
+	bSupportsMaximize = InArgs._SupportsMaximize;
+	bSupportsMinimize = InArgs._SupportsMinimize;
+
+	SAssignNew(Layers, SOverlay) + SOverlay::Slot().Expose(ContentSlot)[InArgs._Content];
+	ChildSlot[Layers.ToSharedRef()];
+}
+
+FGenericWindowDefinition SWindow::MakeDefinition(const FPlatformRect& WorkArea) const
+{
+	FGenericWindowDefinition Definition;
+	const bool bCenter = AutoCenter == EAutoCenter::PrimaryWorkArea;
+	Definition.XDesiredPositionOnScreen = bCenter ? (WorkArea.Left + WorkArea.Right - Size.X) / 2.0 : ScreenPosition.X;
+	Definition.YDesiredPositionOnScreen = bCenter ? (WorkArea.Top + WorkArea.Bottom - Size.Y) / 2.0 : ScreenPosition.Y;
+	Definition.WidthDesiredOnScreen = Size.X;
+	Definition.HeightDesiredOnScreen = Size.Y;
+	Definition.HasOSWindowBorder = true;
+	Definition.HasSizingFrame = true;
+	Definition.SupportsMaximize = bSupportsMaximize;
+	Definition.SupportsMinimize = bSupportsMinimize;
+	Definition.Title = Title.Get().ToString();
+	return Definition;
+}
+
+void SWindow::SetTitle(const FText& InTitle)
+{
+	Title.Set(*this, InTitle);
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->SetText(*InTitle.ToString());
+	}
+}
+
+void SWindow::SetContent(const TSharedRef<SWidget>& InContent)
+{
+	ContentSlot->AttachWidget(InContent);
+}
+
+void SWindow::MoveWindowTo(FVector2D NewPosition)
+{
+	ScreenPosition = NewPosition;
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->MoveWindowTo(FMath::RoundToInt(NewPosition.X), FMath::RoundToInt(NewPosition.Y));
+	}
+}
+
+void SWindow::Resize(FVector2D NewClientSize)
+{
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->ReshapeWindow(FMath::RoundToInt(ScreenPosition.X), FMath::RoundToInt(ScreenPosition.Y),
+			FMath::Max(FMath::RoundToInt(NewClientSize.X), 1), FMath::Max(FMath::RoundToInt(NewClientSize.Y), 1));
+	}
+	SetCachedSize(NewClientSize);
+}
+
+void SWindow::SetCachedSize(FVector2D InSize)
+{
+	const FVector2D NewSize(FMath::Max(InSize.X, 1.0), FMath::Max(InSize.Y, 1.0));
+	if (NewSize == Size)
+	{
+		return;
+	}
+	Size = NewSize;
+	bSizeChanged = true;
+	FSlateApplicationBase::Get().GetRenderer()->RequestResize(this, FIntPoint(FMath::RoundToInt(Size.X), FMath::RoundToInt(Size.Y)));
+	DamageAll();
+}
+
+float SWindow::GetDPIScaleFactor() const
+{
+	return NativeWindow.IsValid() ? NativeWindow->GetDPIScaleFactor() : 1.0f;
+}
+
+void SWindow::ShowWindow()
+{
+	bShown = true;
+	DamageAll();
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->Show();
+	}
+}
+
+void SWindow::HideWindow()
+{
+	bShown = false;
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->Hide();
+	}
+}
+
+void SWindow::BringToFront(bool bForce)
+{
+	if (NativeWindow.IsValid())
+	{
+		NativeWindow->BringToFront(bForce);
+	}
+}
+
+void SWindow::RequestDestroyWindow()
+{
+	const TSharedRef<SWindow> Me = SharedThis(this);
+	if (RequestDestroyOverride.IsBound())
+	{
+		RequestDestroyOverride.Execute(Me);
+	}
+	else
+	{
+		FSlateApplicationBase::Get().RequestDestroyWindow(Me);
+	}
+}
+
+void SWindow::NotifyWindowBeingDestroyed()
+{
+	OnWindowClosed.ExecuteIfBound(SharedThis(this));
+	bShown = false;
+}
+
+void SWindow::AddPopup(const TSharedRef<SWidget>& Popup, const FVector2D& LocalPosition)
+{
+	Layers->AddSlot()
+		.HAlign(HAlign_Left)
+		.VAlign(VAlign_Top)
+		.Padding(FMargin(LocalPosition.X, LocalPosition.Y, 0.0f, 0.0f))[Popup];
+}
+
+void SWindow::RemovePopup(const TSharedRef<SWidget>& Popup)
+{
+	Layers->RemoveSlot(Popup);
+}
+
+void SWindow::DamageAll()
+{
+	Damage.Add(FSlateRect(0.0f, 0.0f, Size.X, Size.Y));
+}
+
+void SWindow::UpdateLayout()
+{
+	bSizeChanged = false;
+	const float Scale = GetDPIScaleFactor();
+	SlatePrepass(Scale);
+	UpdateArrangement(FGeometry::MakeRoot(Size / Scale, FSlateLayoutTransform(Scale)), FSlateRect(0.0f, 0.0f, Size.X, Size.Y), Damage);
+}
+
+void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements) const
+{
+	for (const FSlateRect& Rect : Damage.GetRects())
+	{
+		OutDrawElements.AddDamage(Rect);
+	}
+	FWidgetStyle Style;
+	Style.SetForegroundColor(FAppStyle::Get().GetSlateColor("DefaultForeground"));
+	const FSlateBrush& Background = *FAppStyle::Get().GetBrush("Window.Background");
+	FSlateDrawElement::MakeBox(OutDrawElements, 0, GetPaintSpaceGeometry().ToPaintGeometry(), &Background,
+		ESlateDrawEffect::None, Background.GetTint(Style));
+	const FPaintArgs Args(Damage, CurrentTime, DeltaTime);
+	Paint(Args, FSlateRect(0.0f, 0.0f, Size.X, Size.Y), OutDrawElements, 1, Style, true);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+/**
+ * All colours of the user interface, as they show on screen (sRGB). Text on its usual ground has a contrast of at least 4.5 to 1
+ * (WCAG 2.1, 1.4.3).
+ */
+namespace Palette
+{
+constexpr FColor Window(0x1a, 0x1c, 0x20);
+constexpr FColor Panel(0x23, 0x26, 0x2b);
+constexpr FColor DarkPanel(0x1d, 0x1f, 0x23);
+constexpr FColor Outline(0x3c, 0x41, 0x4a);
+constexpr FColor Input(0x13, 0x14, 0x17);
+constexpr FColor InputHovered(0x18, 0x1a, 0x1e);
+constexpr FColor InputReadOnly(0x1e, 0x20, 0x24);
+
+constexpr FColor Button(0x36, 0x3b, 0x43);
+constexpr FColor ButtonHovered(0x45, 0x4b, 0x55);
+constexpr FColor ButtonPressed(0x2a, 0x2e, 0x34);
+constexpr FColor ButtonDisabled(0x2a, 0x2d, 0x32);
+
+constexpr FColor Foreground(0xd3, 0xd7, 0xde);
+constexpr FColor ForegroundBright(0xff, 0xff, 0xff);
+constexpr FColor ForegroundDim(0x9a, 0xa1, 0xab);
+constexpr FColor ForegroundDisabled(0x7d, 0x83, 0x8c);
+
+constexpr FColor Accent(0x3d, 0x8b, 0xfd);
+constexpr FColor AccentHovered(0x5c, 0x9e, 0xff);
+constexpr FColor AccentPressed(0x2a, 0x6f, 0xd6);
+constexpr FColor Selection(0x26, 0x52, 0x8f);
+
+constexpr FColor ScrollThumb(0x4c, 0x52, 0x5c);
+constexpr FColor ScrollThumbHovered(0x66, 0x6d, 0x79);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class SWidget;
+
+/** What is shown when the mouse rests over a widget. */
+class IToolTip
+{
+public:
+	virtual ~IToolTip() = default;
+
+	virtual TSharedRef<SWidget> AsWidget() = 0;
+
+	/** True when there is nothing to show at the moment. */
+	virtual bool IsEmpty() const = 0;
+};
