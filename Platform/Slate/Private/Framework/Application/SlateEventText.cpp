@@ -1,0 +1,44 @@
+#include "Framework/Application/SlateRoutingScope.h"
+
+#include "Framework/Docking/TabManager.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Text/STextBlock.h"
+
+namespace
+{
+const FName TextBlockType(TEXT("STextBlock"));
+
+/** The first text that shows within a widget, itself included. */
+FString FindShownText(SWidget& Widget)
+{
+	if (Widget.GetType() == TextBlockType)
+	{
+		return static_cast<STextBlock&>(Widget).GetText().ToString();
+	}
+	FChildren& Children = *Widget.GetChildren();
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		const FString Text = FindShownText(Children.GetChildRefAt(Index));
+		if (!Text.IsEmpty())
+		{
+			return Text;
+		}
+	}
+	return FString();
+}
+}
+
+FString SlateEventText::Describe(const FRoutedEvent& Event)
+{
+	FString Text = FString::Printf(TEXT("%s on %s"), Event.Kind, *Event.Widget->GetTypeAsString());
+	const FString Shown = FindShownText(Event.Widget.Get());
+	if (!Shown.IsEmpty())
+	{
+		Text += FString::Printf(TEXT(" \"%s\""), *Shown);
+	}
+	if (const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindTabOfContent(Event.Widget))
+	{
+		Text += FString::Printf(TEXT(" in tab \"%s\""), *Tab->GetTabLabel().ToString());
+	}
+	return Text;
+}

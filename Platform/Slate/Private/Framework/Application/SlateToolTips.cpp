@@ -1,0 +1,81 @@
+#include "Framework/Application/SlateToolTips.h"
+
+#include "Widgets/SWindow.h"
+
+namespace
+{
+/** Seconds that the mouse rests before a tool tip appears. */
+constexpr double Delay = 0.4;
+
+/** From the tip of the cursor, in pixels. */
+const FVector2D CursorOffset(12.0, 20.0);
+
+TSharedPtr<IToolTip> FindToolTip(const FWidgetPath& Path)
+{
+	for (int32 Index = Path.Widgets.Num() - 1; Index >= 0; --Index)
+	{
+		const TSharedPtr<IToolTip> ToolTip = Path.Widgets[Index].Widget->GetToolTip();
+		if (ToolTip.IsValid() && !ToolTip->IsEmpty())
+		{
+			return ToolTip;
+		}
+	}
+	return nullptr;
+}
+}
+
+void FSlateToolTips::OnHover(const FWidgetPath& Path, const FVector2D& InCursorPosition, double CurrentTime)
+{
+	const TSharedPtr<IToolTip> Found = FindToolTip(Path);
+	if (Found != Wanted)
+	{
+		Close();
+		Wanted = Found;
+		Window = Path.TopLevelWindow;
+		ShowTime = CurrentTime + Delay;
+	}
+	CursorPosition = InCursorPosition;
+}
+
+double FSlateToolTips::GetNextCallTime() const
+{
+	return Wanted.IsValid() && !bShown ? ShowTime : 1e300;
+}
+
+void FSlateToolTips::Tick(double CurrentTime)
+{
+	if (CurrentTime >= GetNextCallTime())
+	{
+		Show();
+	}
+}
+
+void FSlateToolTips::Show()
+{
+	const TSharedPtr<SWindow> Host = Window.Pin();
+	if (!Host.IsValid())
+	{
+		Wanted.Reset();
+		return;
+	}
+	const TSharedRef<SWidget> Tip = Wanted->AsWidget();
+	const float Scale = Host->GetDPIScaleFactor();
+	Tip->SlatePrepass(Scale);
+	const FVector2D Room = (Host->GetSizeInScreen() / Scale) - Tip->GetDesiredSize();
+	const FVector2D Place = (CursorPosition + CursorOffset - Host->GetPositionInScreen()) / Scale;
+	Host->AddPopup(Tip, FVector2D(FMath::Max(FMath::Min(Place.X, Room.X), 0.0), FMath::Max(FMath::Min(Place.Y, Room.Y), 0.0)));
+	bShown = true;
+}
+
+void FSlateToolTips::Close()
+{
+	if (bShown)
+	{
+		if (const TSharedPtr<SWindow> Host = Window.Pin())
+		{
+			Host->RemovePopup(Wanted->AsWidget());
+		}
+	}
+	bShown = false;
+	Wanted.Reset();
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+// The ways in which a progress bar fills (EProgressBarFillType).
+#include "Types/SlateEnums.h"

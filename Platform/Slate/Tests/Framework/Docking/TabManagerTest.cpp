@@ -1,0 +1,213 @@
+#include <gtest/gtest.h>
+
+#include "Framework/Docking/TabManager.h"
+#include "LogCapture.h"
+#include "SlateTestWindow.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
+
+namespace
+{
+const TSharedRef<FGlobalTabmanager>& Manager()
+{
+	return FGlobalTabmanager::Get();
+}
+
+/** A window whose content is a tab well, and spawners that are gone with it. */
+struct FTabWindow
+{
+	FSlateTestWindow Window;
+	TArray<FName> Registered;
+	TArray<FString> Log;
+
+	FTabWindow() : Window(MakeWell()) {}
+
+	~FTabWindow()
+	{
+		for (const TSharedRef<SDockTab>& Tab : Manager()->GetLiveTabs())
+		{
+			Tab->SetCanCloseTab(FCanCloseTab());
+			Tab->RequestCloseTab();
+		}
+		for (const FName Name : Registered)
+		{
+			Manager()->UnregisterNomadTabSpawner(Name);
+		}
+	}
+
+	static TSharedRef<SWidget> MakeWell()
+	{
+		return Manager()->RestoreFrom(FTabManager::NewLayout("Test")->AddArea(
+			FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack())), nullptr).ToSharedRef();
+	}
+
+	void Register(FName Name)
+	{
+		Registered.Add(Name);
+		Manager()->RegisterNomadTabSpawner(Name, FOnSpawnTab::CreateLambda([this, Name](const FSpawnTabArgs& Args)
+		{
+			Log.Add(TEXT("spawn ") + Name.ToString());
+			return SNew(SDockTab).TabRole(ETabRole::NomadTab).OnTabClosed_Lambda([this, Name](TSharedRef<SDockTab> Tab)
+			{
+				const TCHAR* const Live = Manager()->FindExistingLiveTab(Name).IsValid() ? TEXT(" while live") : TEXT("");
+				Log.Add(TEXT("closed ") + Name.ToString() + Live);
+			})[SNew(SBorder)];
+		})).SetDisplayName(FText::FromString(TEXT("The ") + Name.ToString()));
+	}
+};
+}
+
+TEST(TabManager, ATabShowsTheDisplayNameOfItsSpawnerAndGetsItsIdentifier)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+
+	const TSharedPtr<SDockTab> Tab = Manager()->TryInvokeTab(FName("A"));
+
+	ASSERT_TRUE(Tab.IsValid());
+	EXPECT_EQ(Tab->GetTabLabel().ToString(), TEXT("The A"));
+	EXPECT_EQ(Tab->GetLayoutIdentifier().ToString(), TEXT("A"));
+	EXPECT_EQ(Manager()->FindExistingLiveTab(FName("A")), Tab);
+}
+
+TEST(TabManager, IsNotLiveBeforeItsSpawnerHasReturned)
+{
+	FTabWindow Tabs;
+	bool bLiveWithin = true;
+	Tabs.Registered.Add("Early");
+	Manager()->RegisterNomadTabSpawner("Early", FOnSpawnTab::CreateLambda([&bLiveWithin](const FSpawnTabArgs&)
+	{
+		bLiveWithin = Manager()->FindExistingLiveTab(FName("Early")).IsValid();
+		return SNew(SDockTab);
+	}));
+
+	Manager()->TryInvokeTab(FName("Early"));
+
+	EXPECT_FALSE(bLiveWithin);
+}
+
+TEST(TabManager, InvokingALiveTabBringsItToTheFrontWithoutSpawning)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Tabs.Register("B");
+	const TSharedPtr<SDockTab> A = Manager()->TryInvokeTab(FName("A"));
+	const TSharedPtr<SDockTab> B = Manager()->TryInvokeTab(FName("B"));
+	EXPECT_FALSE(A->IsForeground());
+
+	EXPECT_EQ(Manager()->TryInvokeTab(FName("A")), A);
+
+	EXPECT_TRUE(A->IsForeground());
+	EXPECT_EQ(Tabs.Log, TArray<FString>({TEXT("spawn A"), TEXT("spawn B")}));
+}
+
+TEST(TabManager, AnUnknownIdentifierGivesNoTabAndAWarning)
+{
+	const FLogCapture Log(TEXT("LogTabManager"));
+
+	EXPECT_FALSE(Manager()->TryInvokeTab(FName("Nobody")).IsValid());
+
+	EXPECT_EQ(Log.Warnings(), TArray<FString>({TEXT("There is no tab spawner for 'Nobody'.")}));
+}
+
+TEST(TabManager, ClosingAsksThenRemovesThenTells)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	const TSharedPtr<SDockTab> Tab = Manager()->TryInvokeTab(FName("A"));
+	Tab->SetCanCloseTab(FCanCloseTab::CreateLambda([] { return false; }));
+	EXPECT_FALSE(Tab->RequestCloseTab());
+	EXPECT_TRUE(Manager()->FindExistingLiveTab(FName("A")).IsValid());
+
+	Tab->SetCanCloseTab(FCanCloseTab::CreateLambda([] { return true; }));
+	EXPECT_TRUE(Tab->RequestCloseTab());
+
+	EXPECT_FALSE(Manager()->FindExistingLiveTab(FName("A")).IsValid());
+	EXPECT_EQ(Tabs.Log, TArray<FString>({TEXT("spawn A"), TEXT("closed A")}));
+}
+
+TEST(TabManager, ActiveTabChangesAreToldOnceWithThePreviousAndTheNewTab)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Tabs.Register("B");
+	const TSharedPtr<SDockTab> A = Manager()->TryInvokeTab(FName("A"));
+	TArray<FString> Changes;
+	const auto NameOf = [](const TSharedPtr<SDockTab>& Tab) { return Tab.IsValid() ? Tab->GetLayoutIdentifier().ToString() : FString(TEXT("none")); };
+	const FDelegateHandle Handle = Manager()->OnActiveTabChanged_Subscribe(FOnActiveTabChanged::FDelegate::CreateLambda(
+		[&](TSharedPtr<SDockTab> Previous, TSharedPtr<SDockTab> New) { Changes.Add(NameOf(Previous) + TEXT(">") + NameOf(New)); }));
+
+	const TSharedPtr<SDockTab> B = Manager()->TryInvokeTab(FName("B"));
+	Manager()->TryInvokeTab(FName("B"));
+	B->RequestCloseTab();
+	Manager()->OnActiveTabChanged_Unsubscribe(Handle);
+
+	EXPECT_EQ(Changes, TArray<FString>({TEXT("A>B"), TEXT("B>A")}));
+}
+
+TEST(TabManager, AClickOnAHandleBringsItsTabToTheFrontAndTheMiddleButtonClosesIt)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Tabs.Register("B");
+	const TSharedPtr<SDockTab> A = Manager()->TryInvokeTab(FName("A"));
+	const TSharedPtr<SDockTab> B = Manager()->TryInvokeTab(FName("B"));
+	Tabs.Window.Frame();
+
+	Tabs.Window.ClickAt(A->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(8.0, 8.0));
+	EXPECT_TRUE(A->IsForeground());
+	Tabs.Window.ClickAt(B->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(8.0, 8.0), EMouseButtons::Middle);
+	EXPECT_FALSE(Manager()->FindExistingLiveTab(FName("B")).IsValid());
+}
+
+TEST(TabManager, ALayoutOpensAnAreaInAWindowOfItsOwnSizeAndTitle)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+
+	Manager()->RestoreFrom(FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
+		->SetWindow(FVector2D(50.0, 60.0), false)->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))), nullptr, true);
+
+	const TSharedPtr<SDockTab> Tab = Manager()->FindExistingLiveTab(FName("A"));
+	ASSERT_TRUE(Tab.IsValid());
+	const TSharedPtr<SWindow> Window = Tab->GetParentWindow();
+	EXPECT_NE(Window.Get(), &Tabs.Window.GetWindow());
+	EXPECT_EQ(Window->GetSizeInScreen(), FVector2D(300.0, 200.0));
+	EXPECT_EQ(Window->GetPositionInScreen(), FVector2D(50.0, 60.0));
+	EXPECT_EQ(Window->GetTitle().ToString(), TEXT("The A"));
+
+	Tab->RequestCloseTab();
+	Tabs.Window.Frame();
+	EXPECT_FALSE(FSlateApplication::Get().GetTopLevelWindows().Contains(Window.ToSharedRef()));
+}
+
+TEST(TabManager, ClosingAWindowClosesItsTabs)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Manager()->RestoreFrom(FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
+		->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))), nullptr);
+
+	Manager()->FindExistingLiveTab(FName("A"))->GetParentWindow()->RequestDestroyWindow();
+
+	EXPECT_EQ(Tabs.Log, TArray<FString>({TEXT("spawn A"), TEXT("closed A")}));
+}
+
+TEST(TabManager, TheContentOfATabInTheBackgroundIsInNoWindowAndItsHandleIs)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Tabs.Register("B");
+	const TSharedPtr<SDockTab> A = Manager()->TryInvokeTab(FName("A"));
+	Manager()->TryInvokeTab(FName("B"));
+
+	EXPECT_FALSE(FSlateApplication::Get().FindWidgetWindow(A->GetContent()).IsValid());
+	EXPECT_EQ(FSlateApplication::Get().FindWidgetWindow(A.ToSharedRef()).Get(), &Tabs.Window.GetWindow());
+}
+
+TEST(TabId, PrintsTheTypeAndTheInstanceIfThereIsOne)
+{
+	EXPECT_EQ(FTabId("Type").ToString(), TEXT("Type"));
+	EXPECT_EQ(FTabId("Type", 3).ToString(), TEXT("Type:3"));
+}
