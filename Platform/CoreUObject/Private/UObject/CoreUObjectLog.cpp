@@ -1,0 +1,7 @@
+#include "UObject/CoreUObjectLog.h"
+
+DEFINE_LOG_CATEGORY(LogObj);
+DEFINE_LOG_CATEGORY(LogClass);
+DEFINE_LOG_CATEGORY(LogUObjectGlobals);
+DEFINE_LOG_CATEGORY(LogScriptCore);
+DEFINE_LOG_CATEGORY(LogGarbage);

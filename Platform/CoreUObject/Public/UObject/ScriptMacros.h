@@ -1,0 +1,4 @@
+#pragma once
+
+#include "UObject/ObjectMacros.h"
+#include "UObject/Stack.h"
