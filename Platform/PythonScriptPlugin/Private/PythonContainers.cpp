@@ -1,0 +1,87 @@
+#include "PythonContainers.h"
+
+#include "PythonErrors.h"
+#include "PythonTypeSpec.h"
+#include "UObject/UnrealType.h"
+
+static FPythonGlobalRef GArrayType;
+static FPythonGlobalRef GSetType;
+static FPythonGlobalRef GMapType;
+
+bool PythonContainers::Register(PyObject* Module)
+{
+	GArrayType = MakeArrayType();
+	GSetType = MakeSetType();
+	GMapType = MakeMapType();
+	for (const FPythonGlobalRef* Type : {&GArrayType, &GSetType, &GMapType})
+	{
+		if (!*Type || PyModule_AddType(Module, Type->GetType()) < 0)
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+PyTypeObject* PythonContainers::TypeFor(const FProperty* Property)
+{
+	if (Property->IsA<FArrayProperty>())
+	{
+		return GArrayType.GetType();
+	}
+	return Property->IsA<FSetProperty>() ? GSetType.GetType() : GMapType.GetType();
+}
+
+PyTypeObject* PythonContainers::SetType()
+{
+	return GSetType.GetType();
+}
+
+FPythonRef PythonContainers::New(PyTypeObject* PythonType, const TSharedRef<const FPythonContainerType>& Type)
+{
+	FPythonRef Result = FPythonRef::Steal(PythonType->tp_alloc(PythonType, 0));
+	if (Result)
+	{
+		new (&FPythonContainer::From(Result.Get())) FPythonContainer(Type);
+	}
+	return Result;
+}
+
+FPythonRef PythonContainers::ToPython(const TSharedRef<const FPythonContainerType>& Type, const void* Value)
+{
+	const FPythonRef Result = New(TypeFor(Type->Property), Type);
+	if (Result)
+	{
+		FPythonContainer::From(Result.Get()).CopyFrom(Value);
+	}
+	return Result;
+}
+
+PyObject* PythonContainers::Copy(PyObject* Self, PyObject*)
+{
+	const FPythonContainer& Container = FPythonContainer::From(Self);
+	return ToPython(Container.Type, Container.Memory).Release();
+}
+
+FPythonRef PythonContainers::As(PyTypeObject* BuiltinType, PyObject* Self)
+{
+	return FPythonRef::Steal(PyObject_CallOneArg(reinterpret_cast<PyObject*>(BuiltinType), Self));
+}
+
+static bool IsComparable(PyTypeObject* BuiltinType, PyObject* Other)
+{
+	const PyTypeObject* const OtherType = Py_TYPE(Other);
+	return PyObject_TypeCheck(Other, BuiltinType) || OtherType == GArrayType.GetType() || OtherType == GSetType.GetType() ||
+		   OtherType == GMapType.GetType();
+}
+
+PyObject* PythonContainers::CompareAs(PyTypeObject* BuiltinType, PyObject* Self, PyObject* Other, int Operation)
+{
+	if (!IsComparable(BuiltinType, Other))
+	{
+		Py_RETURN_NOTIMPLEMENTED;
+	}
+	const FPythonRef Left = As(BuiltinType, Self);
+	const FPythonRef Right = Left ? As(BuiltinType, Other) : FPythonRef();
+	return Right ? PyObject_RichCompare(Left.Get(), Right.Get(), Operation) : nullptr;
+}

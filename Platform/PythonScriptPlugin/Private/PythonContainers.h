@@ -1,0 +1,44 @@
+#pragma once
+
+#include "PythonContainerType.h"
+
+/** `unreal.Array`, `unreal.Set` and `unreal.Map`: values over engine memory, each a copy of its own. */
+namespace PythonContainers
+{
+/** Adds the three types to the module. */
+bool Register(PyObject* Module);
+
+/** A copy of an array, set or map. */
+FPythonRef ToPython(const TSharedRef<const FPythonContainerType>& Type, const void* Value);
+
+/**
+ * Fills initialised memory from an iterable, for a map from a mapping.
+ *
+ * @return False with a TypeError if the value is none or an element does not fit.
+ */
+bool FillArray(const FPythonContainerType& Type, PyObject* Value, void* Memory);
+bool FillSet(const FPythonContainerType& Type, PyObject* Value, void* Memory);
+bool FillMap(const FPythonContainerType& Type, PyObject* Value, void* Memory);
+
+// The three types, each made by its own source.
+FPythonRef MakeArrayType();
+FPythonRef MakeSetType();
+FPythonRef MakeMapType();
+
+/** The type of arrays, sets or maps, by the kind of the property. */
+PyTypeObject* TypeFor(const FProperty* Property);
+
+PyTypeObject* SetType();
+
+/** An empty container, as a new Python value. */
+FPythonRef New(PyTypeObject* PythonType, const TSharedRef<const FPythonContainerType>& Type);
+
+/** A copy of a container value, of the plain type. */
+PyObject* Copy(PyObject* Self, PyObject*);
+
+/** list(self) and the like: calls a built-in type with the container. */
+FPythonRef As(PyTypeObject* BuiltinType, PyObject* Self);
+
+/** Answers a comparison by that of BuiltinType over both sides. */
+PyObject* CompareAs(PyTypeObject* BuiltinType, PyObject* Self, PyObject* Other, int Operation);
+}

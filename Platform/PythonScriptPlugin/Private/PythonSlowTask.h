@@ -1,0 +1,9 @@
+#pragma once
+
+#include "PythonRef.h"
+
+/** `unreal.ScopedSlowTask`: progress of long work. */
+namespace PythonSlowTask
+{
+bool Register(PyObject* Module);
+}
