@@ -1,0 +1,206 @@
+#include "LaunchEngineLoop.h"
+
+#include "Containers/Ticker.h"
+#include "EditorPythonScriptingLibrary.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/TabManager.h"
+#include "HAL/FileManager.h"
+#include "HAL/IConsoleManager.h"
+#include "IPythonScriptPlugin.h"
+#include "Interfaces/IPluginManager.h"
+#include "Misc/App.h"
+#include "Misc/CommandLine.h"
+#include "Misc/ConfigCacheIni.h"
+#include "Misc/CoreDelegates.h"
+#include "Misc/OutputDeviceFile.h"
+#include "Misc/OutputDeviceStdOutput.h"
+#include "Misc/Paths.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/UObjectGlobals.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/SWindow.h"
+
+#include <cstdio>
+
+DEFINE_LOG_CATEGORY_STATIC(LogLaunch, Log, All);
+
+FEngineLoop GEngineLoop;
+
+namespace
+{
+/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
+constexpr double LongestSleep = 1.0;
+
+const FVector2D MainWindowSize(1280.0, 800.0);
+}
+
+FEngineLoop::FEngineLoop() = default;
+FEngineLoop::~FEngineLoop() = default;
+
+bool FEngineLoop::PreInit(const TCHAR* CommandLine)
+{
+	FCommandLine::Set(CommandLine);
+	FString ProjectFile;
+	const TCHAR* Rest = CommandLine;
+	FParse::Token(Rest, ProjectFile, false);
+	ProjectFile = FPaths::ConvertRelativePathToFull(ProjectFile);
+	if (FPaths::GetExtension(ProjectFile) != TEXT("uproject") || !FPaths::FileExists(ProjectFile))
+	{
+		std::fprintf(stderr, "'%s' is not a project file. The first argument names a .uproject file.\n", TCHAR_TO_UTF8(*ProjectFile));
+		return false;
+	}
+	FPaths::SetProjectFilePath(ProjectFile);
+	OpenLog();
+	FConfigCacheIni::InitializeConfigSystem();
+	return true;
+}
+
+void FEngineLoop::OpenLog()
+{
+	FString LogPath;
+	if (!FParse::Value(FCommandLine::Get(), TEXT("-abslog="), LogPath))
+	{
+		LogPath = FPaths::ProjectLogDir() / FString(FApp::GetProjectName()) + TEXT(".log");
+	}
+	LogFile = MakeUnique<FOutputDeviceFile>(*LogPath);
+	GLog->SerializeBacklog(LogFile.Get());
+	GLog->AddOutputDevice(LogFile.Get());
+	if (FParse::Param(FCommandLine::Get(), TEXT("stdout")))
+	{
+		StdOut = MakeUnique<FOutputDeviceStdOutput>();
+		GLog->SerializeBacklog(StdOut.Get());
+		GLog->AddOutputDevice(StdOut.Get());
+	}
+}
+
+void FEngineLoop::Init()
+{
+	FModuleManager& Modules = FModuleManager::Get();
+	Modules.LoadModule(TEXT("CoreUObject"));
+	Modules.StartProcessingNewlyLoadedObjects();
+
+	FSlateApplication::Create();
+	FApp::SetUseFixedTimeStep(!FSlateApplication::Get().GetPlatformApplication()->HasVisibleWindows());
+	Modules.LoadModule(TEXT("EditorStyle"));
+	Modules.LoadModule(TEXT("PythonScriptPlugin"));
+	Modules.LoadModule(TEXT("EditorDriver"));
+	OpenMainWindow();
+
+	IPluginManager& Plugins = IPluginManager::Get();
+	for (const ELoadingPhase::Type Phase : {ELoadingPhase::PreDefault, ELoadingPhase::Default, ELoadingPhase::PostDefault, ELoadingPhase::PostEngineInit})
+	{
+		Plugins.LoadModulesForEnabledPlugins(Phase);
+	}
+	FCoreDelegates::OnPostEngineInit.Broadcast();
+	UE_LOG(LogLaunch, Log, TEXT("Project %s is open."), *FPaths::GetProjectFilePath());
+}
+
+void FEngineLoop::OpenMainWindow()
+{
+	const FText Title = FText::FromString(FString::Printf(TEXT("Untitled - %s - Unreal Editor"), FApp::GetProjectName()));
+	const TSharedRef<FTabManager::FLayout> Layout = FTabManager::NewLayout("MainFrame")->AddArea(
+		FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack()));
+	MainWindow = SNew(SWindow).Title(Title).ClientSize(MainWindowSize)
+		[FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()];
+	MainWindow->SetRequestDestroyWindowOverride(
+		FRequestDestroyWindowOverride::CreateRaw(this, &FEngineLoop::OnMainWindowWantsToClose));
+	FSlateApplication::Get().AddWindow(MainWindow.ToSharedRef());
+	FGlobalTabmanager::Get()->SetRootWindow(MainWindow.ToSharedRef());
+}
+
+void FEngineLoop::OnMainWindowWantsToClose(const TSharedRef<SWindow>& Window)
+{
+	// A tab may refuse, and the editor stays.
+	for (const TSharedRef<SDockTab>& Tab : FGlobalTabmanager::Get()->GetLiveTabs())
+	{
+		if (!Tab->RequestCloseTab())
+		{
+			return;
+		}
+	}
+	RequestEngineExit(TEXT("The main window was closed."));
+}
+
+void FEngineLoop::AdvanceClock()
+{
+	const double Now = FApp::UseFixedTimeStep() ? FApp::GetCurrentTime() + FApp::GetFixedDeltaTime() : FPlatformTime::Seconds();
+	FApp::SetDeltaTime(GFrameCounter == 0 ? 0.0 : Now - FApp::GetCurrentTime());
+	FApp::SetCurrentTime(Now);
+	++GFrameCounter;
+}
+
+void FEngineLoop::Tick()
+{
+	AdvanceClock();
+	FSlateApplication& Slate = FSlateApplication::Get();
+	Slate.PumpMessages();
+	GLog->FlushThreadedLogs();
+	if (FTSTicker::GetCoreTicker().Tick(static_cast<float>(FApp::GetDeltaTime())))
+	{
+		Slate.RequestFrame();
+	}
+	Slate.Tick();
+	CollectRequestedGarbage();
+	if (!bCommandsDone)
+	{
+		bCommandsDone = true;
+		RunCommandLineCommands();
+	}
+}
+
+void FEngineLoop::RunCommandLineCommands()
+{
+	FString Commands;
+	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecCmds="), Commands, false))
+	{
+		TArray<FString> Each;
+		Commands.ParseIntoArray(Each, TEXT(";"));
+		for (const FString& Command : Each)
+		{
+			IConsoleManager::Get().ProcessUserConsoleInput(*Command.TrimStartAndEnd(), *GLog, nullptr);
+		}
+	}
+
+	FString Script;
+	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false))
+	{
+		IPythonScriptPlugin* const Python = IPythonScriptPlugin::Get();
+		const bool bSucceeded = Python && Python->ExecPythonCommand(*Script);
+		if (!bSucceeded)
+		{
+			UE_LOG(LogLaunch, Error, TEXT("The script failed: %s"), *Script);
+			ExitStatus = 1;
+		}
+		if (!UEditorPythonScripting::GetKeepPythonScriptAlive())
+		{
+			RequestEngineExit(TEXT("The script of the command line has ended."));
+		}
+	}
+	FSlateApplication::Get().RequestFrame();
+}
+
+void FEngineLoop::WaitForWork()
+{
+	FSlateApplication& Slate = FSlateApplication::Get();
+	if (FApp::UseFixedTimeStep() || Slate.NeedsFrame() || IsEngineExitRequested())
+	{
+		return;
+	}
+	const double Seconds = FMath::Min(Slate.GetSecondsToNextCall(), FTSTicker::GetCoreTicker().GetSecondsToNextCall());
+	Slate.GetPlatformApplication()->WaitForMessages(FMath::Clamp(Seconds, 0.0, LongestSleep));
+}
+
+void FEngineLoop::Exit()
+{
+	for (const TSharedRef<SDockTab>& Tab : FGlobalTabmanager::Get()->GetLiveTabs())
+	{
+		Tab->RequestCloseTab();
+	}
+	FSlateApplication::Get().PumpMessages();
+	MainWindow.Reset();
+
+	FModuleManager::Get().UnloadModulesAtShutdown();
+	FSlateApplication::Shutdown();
+	UE_LOG(LogLaunch, Log, TEXT("The editor has ended."));
+	GLog->TearDown();
+}

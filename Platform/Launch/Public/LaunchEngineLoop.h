@@ -1,0 +1,59 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class FOutputDeviceFile;
+class FOutputDeviceStdOutput;
+class SWindow;
+
+/**
+ * The editor's life: start, frames, end. One frame is: platform messages, tickers, Slate, garbage. Between frames with
+ * nothing to do it sleeps, so that an idle editor uses no CPU. Off-screen there is nobody to wait for: each frame counts as a
+ * sixtieth of a second and follows the last at once.
+ */
+class LAUNCH_API FEngineLoop
+{
+public:
+	FEngineLoop();
+	~FEngineLoop();
+
+	/**
+	 * Sets the project, the log and the configuration up.
+	 *
+	 * @param CommandLine The project file, then switches: -abslog=FILE, -stdout, -RenderOffScreen, -unattended,
+	 * -ExecutePythonScript="file args", -ExecCmds="a;b", -DisablePython.
+	 * @return False, with a message on the standard error, when there is no such project.
+	 */
+	bool PreInit(const TCHAR* CommandLine);
+
+	/** Loads the modules and the plugins and opens the main window. */
+	void Init();
+
+	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
+	void Tick();
+
+	/** Sleeps until there is something to do. Off-screen it returns at once. */
+	void WaitForWork();
+
+	/** Ends windows, modules with Python, objects and Slate, in this order. */
+	void Exit();
+
+	/** The status for the parent process: 1 when the script of the command line failed. */
+	int32 GetExitStatus() const { return ExitStatus; }
+
+private:
+	void OpenLog();
+	void AdvanceClock();
+	void OpenMainWindow();
+	void RunCommandLineCommands();
+	void OnMainWindowWantsToClose(const TSharedRef<SWindow>& Window);
+
+	TUniquePtr<FOutputDeviceFile> LogFile;
+	TUniquePtr<FOutputDeviceStdOutput> StdOut;
+	TSharedPtr<SWindow> MainWindow;
+	int32 ExitStatus = 0;
+	bool bCommandsDone = false;
+};
+
+/** The loop of this process. */
+extern LAUNCH_API FEngineLoop GEngineLoop;
