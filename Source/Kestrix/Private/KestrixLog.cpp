@@ -1,0 +1,6 @@
+#include "KestrixLog.h"
+
+DEFINE_LOG_CATEGORY(Velmora);
+DEFINE_LOG_CATEGORY(PythonKX);
+DEFINE_LOG_CATEGORY(PythonMesh);
+DEFINE_LOG_CATEGORY(KestrixUtils);

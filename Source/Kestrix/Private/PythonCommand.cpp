@@ -1,0 +1,10 @@
+#include "PythonCommand.h"
+
+#include "IPythonScriptPlugin.h"
+#include "Modules/ModuleManager.h"
+
+IPythonScriptPlugin* GetPythonScriptPlugin()
+{
+	static const FName ModuleName("PythonScriptPlugin");
+	return FModuleManager::GetModulePtr<IPythonScriptPlugin>(ModuleName);
+}

@@ -1,0 +1,58 @@
+#include "Framework/Application/SlateApplication.h"
+#include "ImageUtils.h"
+#include "Kestrix.h"
+#include "KestrixLog.h"
+#include "Math/IntVector.h"
+#include "Misc/FileHelper.h"
+#include "ToolTabs.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/SWindow.h"
+
+TSharedPtr<SDockTab> FKestrixModule::FindOpenToolTab(FName TabName)
+{
+	for (const TSharedPtr<SDockTab>& Tab : OpenToolTabs)
+	{
+		if (Tab.IsValid() && IsSameTool(FName(*Tab->GetLayoutIdentifier().ToString()), TabName))
+		{
+			return Tab;
+		}
+	}
+	return nullptr;
+}
+
+bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, FString FilePath)
+{
+	FSlateApplication& Application = FSlateApplication::Get();
+	const TSharedPtr<SWidget> FocusedWidget = Application.GetKeyboardFocusedWidget();
+	const TSharedPtr<SWindow> ActiveWindow = Application.GetActiveTopLevelWindow();
+
+	const TSharedRef<SWindow> Window = SNew(SWindow)
+		.ClientSize(Size)
+		.AutoCenter(EAutoCenter::None)
+		.ScreenPosition(FVector2D::ZeroVector);
+	Window->SetContent(Widget.ToSharedRef());
+	Application.AddWindow(Window, /* bShowImmediately */ false);
+	Window->ShowWindow();
+
+	TArray<FColor> Colors;
+	FIntVector OutSize(0, 0, 0);
+	Application.TakeScreenshot(Window, Colors, OutSize);
+	UE_LOG(PythonKX, Log, TEXT("OutSizeB: %d, %d"), OutSize.X, OutSize.Y);
+
+	// The widget goes before its window does, so that it stands for itself again and is laid out anew.
+	Window->SetContent(SNullWidget::NullWidget);
+	Window->HideWindow();
+	Window->RequestDestroyWindow();
+	Widget->Invalidate(EInvalidateWidgetReason::Layout);
+	if (ActiveWindow.IsValid())
+	{
+		ActiveWindow->BringToFront();
+	}
+	Application.SetKeyboardFocus(FocusedWidget);
+	UE_LOG(PythonKX, Log, TEXT("WindowSize: %f %f  vs OutSize: %d, %d"), Size.X, Size.Y, OutSize.X, OutSize.Y);
+
+	TArray64<uint8> Compressed;
+	FImageUtils::PNGCompressImageArray(OutSize.X, OutSize.Y, Colors, Compressed);
+	return FFileHelper::SaveArrayToFile(Compressed, *FilePath);
+}

@@ -1,0 +1,426 @@
+#include "Velmora/ToolDescription.h"
+
+#include "Dom/JsonObject.h"
+#include "LogCapture.h"
+#include "TempProject.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+using FLines = TArray<FString>;
+
+FString TextOf(const FString& Path)
+{
+	FDescriptionText Text;
+	FString Error;
+	EXPECT_TRUE(ReadDescriptionText(Path, Text, Error));
+	return Text.Text;
+}
+
+FString FieldOf(const TSharedPtr<FJsonObject>& Object, const TCHAR* Key)
+{
+	FString Value = TEXT("(none)");
+	if (Object.IsValid())
+	{
+		Object->TryGetStringField(Key, Value);
+	}
+	return Value;
+}
+}
+
+TEST(ToolDescription, MissingFileIsReportedInTheLogAndToTheCaller)
+{
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_FALSE(LoadJsonFile(TEXT("/nowhere/Tool.json"), Error).IsValid());
+
+	EXPECT_EQ(Error, FString(TEXT("Json File: /nowhere/Tool.json is Not exists")));
+	EXPECT_EQ(Log.Warnings(), FLines({Error}));
+}
+
+TEST(ToolDescription, FileWithoutALineIsEmpty)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
+
+	EXPECT_EQ(Error, TEXT("Json File: ") + Path + TEXT(" is Empty"));
+	EXPECT_EQ(Log.Warnings(), FLines({Error}));
+}
+
+TEST(ToolDescription, FileOfBlankLinesIsNotEmptyButNoJson)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "\n\n");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
+
+	EXPECT_EQ(Error, TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' "));
+	EXPECT_EQ(Log.Warnings(), FLines({Error}));
+}
+
+TEST(ToolDescription, FieldsKeepTheOrderOfTheText)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "c": "1", "a": "2", "b": "3" })");
+	FString Error;
+
+	const TSharedPtr<FJsonObject> Object = LoadJsonFile(Path, Error);
+
+	ASSERT_TRUE(Object.IsValid());
+	FLines Keys;
+	Object->Values.GetKeys(Keys);
+	EXPECT_EQ(Keys, FLines({TEXT("c"), TEXT("a"), TEXT("b")}));
+}
+
+TEST(ToolDescription, FileThatIncludesItselfIsRefusedInsideAndStillParsed)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{ \"A\": \"1\"\n\"ExternalJson\": \"Tool.json\"\n}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("A")), FString(TEXT("1")));
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile Tool.json has already import in parents, recursively import")}));
+	EXPECT_TRUE(Log.Lines().Contains(TEXT("PythonKX: Log: Import External Json Path: Tool.json")));
+}
+
+TEST(ToolDescription, FileThatIncludesItselfUnderAnotherCaseIsRefusedToo)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{}\n\"ExternalJson\": \"TOOL.json\"\n");
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("{}\n")));
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile TOOL.json has already import in parents, recursively import")}));
+}
+
+TEST(ToolDescription, FileIncludedTwiceSideBySideStandsTwice)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("B.json"), "b\n");
+	const FString Path = Folder.Write(TEXT("A.json"), "\"ExternalJson\": \"B.json\"\na\n\"ExternalJson\": \"B.json\"\n");
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("b\na\nb\n")));
+
+	EXPECT_EQ(Log.Warnings(), FLines());
+}
+
+TEST(ToolDescription, CycleOfTwoFilesStopsAtTheSecondTurn)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("B.json"), "b\n\"ExternalJson\": \"A.json\"\n");
+	const FString Path = Folder.Write(TEXT("A.json"), "a\n\"ExternalJson\": \"B.json\"\n");
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("a\nb\n")));
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile A.json has already import in parents, recursively import")}));
+}
+
+TEST(ToolDescription, AbsoluteInclusionIsUsedAsItStands)
+{
+	const FTempProject Folder;
+	const FTempProject Elsewhere;
+	const FString Included = Elsewhere.Write(TEXT("Part.json"), "part\n");
+	const FString Line = TEXT("\"ExternalJson\": \"") + Included + TEXT("\"");
+	const FString Path = Folder.Write(TEXT("Tool.json"), Line);
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("part\n")));
+}
+
+TEST(ToolDescription, NestedInclusionResolvesAgainstTheFileItStandsIn)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("Shared/Leaf.json"), "leaf\n");
+	Folder.Write(TEXT("Tools/Parts/Header.json"), "\"ExternalJson\": \"../../Shared/Leaf.json\"\n");
+	const FString Path = Folder.Write(TEXT("Tools/Tool.json"), "\"ExternalJson\": \"Parts/Header.json\",\n");
+	FDescriptionText Text;
+	FString Error;
+
+	ASSERT_TRUE(ReadDescriptionText(Path, Text, Error));
+
+	EXPECT_EQ(Text.Text, FString(TEXT("leaf\n")));
+	EXPECT_EQ(Text.DescribePlace(1), Folder.Path(TEXT("Shared/Leaf.json")) + TEXT(":1"));
+}
+
+TEST(ToolDescription, CommentedOutInclusionIsIncludedAllTheSame)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("x.json"), "x\n");
+	const FString Path = Folder.Write(TEXT("Tool.json"), "  // \"ExternalJson\": \"x.json\"\n");
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("x\n")));
+}
+
+TEST(ToolDescription, RestOfAnInclusionLineIsLost)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("x.json"), "x");
+	const FString Path = Folder.Write(TEXT("Tool.json"), "\"A\": 1, \"ExternalJson\": \"x.json\", \"B\": 2 // why\nnext");
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("x\nnext\n")));
+}
+
+TEST(ToolDescription, MissingIncludedFileLosesOnlyItsText)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\"ExternalJson\": \"gone.json\"\n}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_TRUE(LoadJsonFile(Path, Error).IsValid());
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("Can't "), TEXT("File: ") + Folder.Path(TEXT("gone.json")) + TEXT(" not exists.")}));
+}
+
+TEST(ToolDescription, InclusionWithoutANameIncludesNothing)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\"ExternalJson\":\n\"ExternalJson\": \"open\n}");
+	FString Error;
+
+	EXPECT_TRUE(LoadJsonFile(Path, Error).IsValid());
+}
+
+TEST(ToolDescription, DoubleSlashInsideAStringCutsTheLineAndBreaksTheParse)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\"A\": \"b//c\",\n\"B\": 1 }");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("{\n\"A\": \"b\n\"B\": 1 }\n")));
+	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' ")}));
+}
+
+TEST(ToolDescription, CommentLineLeavesNotEvenALineEnd)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\t// nothing\n} // end\n");
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("{\n} \n")));
+}
+
+TEST(ToolDescription, SyntaxErrorIsPlacedInTheFileAndLineWhereItWasWritten)
+{
+	const FTempProject Folder;
+	const FString Part = Folder.Write(TEXT("Part.json"), "// a comment\n\"A\": 1,\n\"B\" 2\n");
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n// a comment\n\"ExternalJson\": \"Part.json\"\n}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Error;
+
+	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
+
+	const FString Place = TEXT("PythonKX: Log: ") + Part + TEXT(":3: ");
+	EXPECT_TRUE(Log.Lines().ContainsByPredicate([&Place](const FString& Line) { return Line.StartsWith(Place); }));
+}
+
+TEST(ToolDescription, PlacesFollowTheSplicedText)
+{
+	const FTempProject Folder;
+	const FString Part = Folder.Write(TEXT("Part.json"), "x\n// y\nz\n");
+	const FString Path = Folder.Write(TEXT("Tool.json"), "// top\na\n\"ExternalJson\": \"Part.json\"\nb\n");
+	FDescriptionText Text;
+	FString Error;
+
+	ASSERT_TRUE(ReadDescriptionText(Path, Text, Error));
+
+	EXPECT_EQ(Text.Text, FString(TEXT("a\nx\nz\nb\n")));
+	EXPECT_EQ(Text.DescribePlace(1), Path + TEXT(":2"));
+	EXPECT_EQ(Text.DescribePlace(2), Part + TEXT(":1"));
+	EXPECT_EQ(Text.DescribePlace(3), Part + TEXT(":3"));
+	EXPECT_EQ(Text.DescribePlace(4), Path + TEXT(":4"));
+	EXPECT_EQ(Text.DescribePlace(99), Path + TEXT(":4"));
+}
+
+TEST(ToolDescription, ExternalTextIsGivenWithoutItsOwnCycle)
+{
+	const FTempProject Folder;
+	const FString Tool = Folder.Path(TEXT("Tool.json"));
+	Folder.Write(TEXT("Part.json"), "part // comment\n");
+
+	EXPECT_EQ(LoadExternalJson(TEXT("Part.json"), {Tool}), FString(TEXT("part \n")));
+	EXPECT_EQ(LoadExternalJson(TEXT("Part.json"), {Tool, Folder.Path(TEXT("Part.json"))}), FString());
+}
+
+TEST(ToolDescription, NonAsciiTextSurvives)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), TEXT("{ \"TabLabel\": \"Größe \U0001F3A8\" }"));
+	FString DataPath;
+	FString Label;
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(Label, FString(TEXT("Größe \U0001F3A8")));
+}
+
+TEST(ToolDescription, LargeDescriptionIsReadLineByLine)
+{
+	constexpr int32 NumLines = 200000;
+	const FTempProject Folder;
+	FString Source = TEXT("{\n");
+	for (int32 Index = 0; Index < NumLines; ++Index)
+	{
+		Source += TEXT("// a line that leaves nothing behind\n\"Key\": 1,\n");
+	}
+	Source += TEXT("\"Last\": \"here\" }\n");
+	const FString Path = Folder.Write(TEXT("Tool.json"), Source);
+	FString Error;
+
+	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("Last")), FString(TEXT("here")));
+}
+
+TEST(InitTabGeometry, ArrayWithoutTwoNumbersLeavesTheDefault)
+{
+	const FTempProject Folder;
+	for (const char* Value : {"[800]", "[800, \"x\"]", "[]", "\"800, 600\"", "[\"800\", 600]", "[null, 1]", "800"})
+	{
+		const FString Path = Folder.Write(TEXT("Tool.json"), (std::string("{ \"InitTabSize\": ") + Value + " }").c_str());
+		FVector2D Size(1.0, 1.0);
+		FVector2D Position(1.0, 1.0);
+
+		EXPECT_TRUE(GetInitTabGeometry(Path, Size, Position)) << Value;
+
+		EXPECT_EQ(Size, FVector2D(-1.0, -1.0)) << Value;
+		EXPECT_EQ(Position, FVector2D(-1.0, -1.0)) << Value;
+	}
+}
+
+TEST(InitTabGeometry, FirstTwoNumbersCount)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "InitTabSize": [800, 600.5, "x"], "InitTabPosition": [-20, 0] })");
+	FVector2D Size;
+	FVector2D Position;
+
+	EXPECT_TRUE(GetInitTabGeometry(Path, Size, Position));
+
+	EXPECT_EQ(Size, FVector2D(800.0, 600.5));
+	EXPECT_EQ(Position, FVector2D(-20.0, 0.0));
+}
+
+TEST(InitTabGeometry, UnreadableFileLeavesTheOutputs)
+{
+	FVector2D Size(1.0, 2.0);
+	FVector2D Position(3.0, 4.0);
+
+	EXPECT_FALSE(GetInitTabGeometry(TEXT("/nowhere/Tool.json"), Size, Position));
+
+	EXPECT_EQ(Size, FVector2D(1.0, 2.0));
+	EXPECT_EQ(Position, FVector2D(3.0, 4.0));
+}
+
+TEST(DataAndTabLabel, DataPathWithoutAPackageIsReportedAndKept)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "VelmoraData": "/Game/Nowhere/Data", "TabLabel": "My Tool" })");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString DataPath;
+	FString Label;
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(DataPath, FString(TEXT("/Game/Nowhere/Data")));
+	EXPECT_EQ(Label, FString(TEXT("My Tool")));
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json File can't find: VelmoraData, Default data used. @ /Game/Nowhere/Data")}));
+}
+
+TEST(DataAndTabLabel, EmptyDataPathMeansTheDefaultData)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "VelmoraData": "" })");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString DataPath = TEXT("before");
+	FString Label;
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(DataPath, FString());
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: Default data used.")}));
+}
+
+TEST(DataAndTabLabel, MissingKeysSayNothingAndKeepTheLabel)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString DataPath = TEXT("before");
+	FString Label = TEXT("before");
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(DataPath, FString());
+	EXPECT_EQ(Label, FString(TEXT("before")));
+	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(DescriptionCommands, InitCommandIsFoundAndItsAbsenceIsReported)
+{
+	const FTempProject Folder;
+	const FString With = Folder.Write(TEXT("With.json"), "{ \"InitPyCmd\": \"init(%JsonPath)\" }");
+	const FString Without = Folder.Write(TEXT("Without.json"), "{}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Command;
+
+	EXPECT_TRUE(GetInitPyCmd(With, Command));
+	EXPECT_EQ(Command, FString(TEXT("init(%JsonPath)")));
+	EXPECT_FALSE(GetInitPyCmd(Without, Command));
+	EXPECT_EQ(Command, FString());
+
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json File can't find: InitPyCmd  ") + Without}));
+}
+
+TEST(DescriptionCommands, CloseCommandMayBeMissing)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{}");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Command = TEXT("before");
+
+	EXPECT_FALSE(GetOnClosePyCmd(Path, Command));
+
+	EXPECT_EQ(Command, FString());
+	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(DescriptionCommands, UnreadableFileIsReportedByEveryGetter)
+{
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString Value;
+	TSharedPtr<FJsonObject> Menu;
+
+	EXPECT_FALSE(GetInitPyCmd(TEXT("/nowhere.json"), Value));
+	EXPECT_FALSE(GetOnClosePyCmd(TEXT("/nowhere.json"), Value));
+	EXPECT_FALSE(GetStringFieldOfFile(TEXT("/nowhere.json"), TEXT("Any"), Value));
+	EXPECT_FALSE(GetOnTabContextMenu(TEXT("/nowhere.json"), Menu));
+
+	const FString Error = TEXT("Json object is not Valid /nowhere.json");
+	EXPECT_EQ(Log.Errors(), FLines({Error, Error, Error, Error}));
+}
+
+TEST(DescriptionCommands, TabMenuIsAnObject)
+{
+	const FTempProject Folder;
+	const FString With = Folder.Write(TEXT("With.json"), R"({ "OnTabContextMenu": { "items": [] } })");
+	const FString Without = Folder.Write(TEXT("Without.json"), R"({ "OnTabContextMenu": "items" })");
+	TSharedPtr<FJsonObject> Menu;
+
+	EXPECT_FALSE(GetOnTabContextMenu(Without, Menu));
+	EXPECT_FALSE(Menu.IsValid());
+	EXPECT_TRUE(GetOnTabContextMenu(With, Menu));
+	EXPECT_TRUE(Menu.IsValid() && Menu->HasField(TEXT("items")));
+}

@@ -1,0 +1,173 @@
+#include "Velmora/VelmoraData.h"
+
+#include "LogCapture.h"
+#include "RunningPlugin.h"
+#include "ToolTabs.h"
+#include "UObject/UObjectGlobals.h"
+#include "Velmora/WidgetTree.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+using FLines = TArray<FString>;
+
+const FString EmptyTool = ToolWithRoot("{ \"SBox\": {} }");
+
+UVelmoraData& MakeData()
+{
+	return *NewObject<UVelmoraData>();
+}
+}
+
+TEST(VelmoraData, NewNameIsRecordedWithItsPath)
+{
+	UVelmoraData& Data = MakeData();
+	const TSharedRef<SWidget> Widget = SNew(SBox);
+
+	EXPECT_TRUE(Data.AddNamedWidget("Box", TEXT("/SBox"), Widget));
+
+	EXPECT_EQ(Data.GetNamedWidget("box"), Widget);
+	EXPECT_EQ(Data.NamedWidgetPaths.FindRef("Box"), FString(TEXT("/SBox")));
+}
+
+TEST(VelmoraData, KnownNameGetsTheLaterWidgetAndATrace)
+{
+	UVelmoraData& Data = MakeData();
+	Data.AddNamedWidget("Name", TEXT("/SBox"), SNew(SBox));
+	const TSharedRef<SWidget> Later = SNew(SBorder);
+	const FLogCapture Log;
+
+	EXPECT_FALSE(Data.AddNamedWidget("Name", TEXT("/SBorder"), Later));
+
+	EXPECT_EQ(Data.GetNamedWidget("Name"), Later);
+	EXPECT_EQ(Data.NamedWidgetPaths.FindRef("Name"), FString(TEXT("/SBorder")));
+	EXPECT_EQ(Log.Lines(),
+			  FLines({TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ ") + Data.GetName()}));
+}
+
+TEST(VelmoraData, UnknownNameIsAWarningThatListsTheKnownOnes)
+{
+	UVelmoraData& Data = MakeData();
+	const FLogCapture Log;
+
+	EXPECT_FALSE(Data.GetNamedWidget("C").IsValid());
+	Data.AddNamedWidget("A", TEXT("/SBox"), SNew(SBox));
+	Data.AddNamedWidget("B", TEXT("/SBox"), SNew(SBox));
+	EXPECT_FALSE(Data.GetNamedWidget("C").IsValid());
+
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: []"),
+								   TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: [A, B, ]")}));
+}
+
+TEST(VelmoraData, NameUsedTwiceInADescriptionReachesTheLaterWidget)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(
+		TEXT("A.json"),
+		ToolWithRoot(
+			R"({ "SVerticalBox": { "Slots": [ { "SBox": { "Aka": "Twice" } }, { "SBorder": { "Aka": "Twice" } } ] } })"));
+
+	const TSharedRef<SWidget> Column = ChildOf(OpenToolTabs[0]->GetContent());
+	EXPECT_EQ(Outline(Column), FString(TEXT("SVerticalBox[SBox SBorder]")));
+	EXPECT_EQ(Data.GetNamedWidget("Twice"), ChildOf(Column, 1));
+}
+
+TEST(VelmoraData, PythonFlagIsWhatWasSetLast)
+{
+	EXPECT_FALSE(UVelmoraData::GetPythonFlag());
+	UVelmoraData::SetPythonFlag(true);
+	EXPECT_TRUE(UVelmoraData::GetPythonFlag());
+	UVelmoraData::SetPythonFlag(false);
+	EXPECT_FALSE(UVelmoraData::GetPythonFlag());
+}
+
+TEST(VelmoraData, FirstLaunchMakesARootedObjectNamedAfterTheFile)
+{
+	FRunningPlugin Plugin;
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	UVelmoraData& Data = Plugin.Launch(TEXT("Dir/Tool.json"), EmptyTool);
+
+	EXPECT_EQ(Data.GetName(), FString(TEXT("UVelmoraData_Tool")));
+	EXPECT_EQ(Data.GetOuter(), GetTransientPackage());
+	EXPECT_EQ(Data.GetClass()->GetPathName(), FString(TEXT("/Script/Kestrix.VelmoraData")));
+	EXPECT_TRUE(Data.IsRooted());
+	EXPECT_TRUE(Data.HasAnyFlags(RF_MarkAsRootSet));
+	EXPECT_TRUE(Log.Lines().Contains(TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")));
+}
+
+TEST(VelmoraData, CollectionLeavesTheObjectOfAClosedToolAlive)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "Box" } })"));
+	UVelmoraData::RequestClose(TEXT("Tool.json"));
+
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+
+	EXPECT_EQ(FKestrixModule::Get().GetToolsDataInstanceByName(Plugin.Project.Path(TEXT("KX/Kestrix/Python/Tool.json"))), &Data);
+	EXPECT_TRUE(Data.GetNamedWidget("Box").IsValid());
+}
+
+TEST(VelmoraData, ToolOpenedAgainKeepsItsObjectAndGivesItTheNewWidgets)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "Name" } })"));
+	UVelmoraData::RequestClose(TEXT("Tool.json"));
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	EXPECT_EQ(&Plugin.Launch(TEXT("Tool.json"), ToolWithRoot(R"({ "SBorder": { "Aka": "Name" } })")), &Data);
+
+	EXPECT_EQ(Data.GetNamedWidget("Name"), ChildOf(OpenToolTabs[0]->GetContent()));
+	EXPECT_TRUE(
+		Log.Lines().Contains(TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ UVelmoraData_Tool")));
+}
+
+TEST(VelmoraData, ClassIsFixedAtTheFirstLaunch)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), EmptyTool);
+	UVelmoraData::RequestClose(TEXT("Tool.json"));
+
+	EXPECT_EQ(&Plugin.Launch(TEXT("Tool.json"), R"({ "InitPyCmd": "", "VelmoraData": "/Game/None", "Root": { "SBox": {} } })"),
+			  &Data);
+}
+
+TEST(VelmoraData, PackageWithoutABlueprintFallsBackToThePlainClass)
+{
+	FRunningPlugin Plugin;
+	Plugin.Project.Write(TEXT("Content/NoBlueprint.uasset"), TEXT("nothing"));
+	const FString Path = Plugin.Project.Path(TEXT("KX/Kestrix/Python/Tool.json"));
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	const UVelmoraData* const Data = FKestrixModule::Get().GetToolsDataInstance(Path, TEXT("/Game/NoBlueprint"));
+
+	EXPECT_EQ(Data->GetClass(), UVelmoraData::StaticClass());
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")}));
+}
+
+TEST(VelmoraData, ToolsWithOneFileNameShareAnObjectThatTheSecondRebuilds)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& First = Plugin.Launch(TEXT("A/Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "OfA" } })"));
+
+	UVelmoraData& Second = Plugin.Launch(TEXT("B/Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "OfB" } })"));
+
+	EXPECT_EQ(&First, &Second);
+	EXPECT_FALSE(Second.GetNamedWidget("OfA").IsValid());
+	EXPECT_TRUE(Second.GetNamedWidget("OfB").IsValid());
+	EXPECT_TRUE(Second.IsRooted());
+	EXPECT_EQ(FKestrixModule::Get().GetAllToolDataPaths().Num(), 2);
+}
+
+TEST(VelmoraData, PathOfAnObjectIsThatOfItsFirstTool)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(TEXT("A.json"), EmptyTool);
+
+	EXPECT_EQ(FKestrixModule::Get().GetToolPathOfDataObject(&Data), Plugin.Project.Path(TEXT("KX/Kestrix/Python/A.json")));
+	EXPECT_EQ(FKestrixModule::Get().GetToolPathOfDataObject(&MakeData()), FString());
+}
