@@ -32,8 +32,8 @@ bool MayRunFrames()
 {
 	if (const FRoutedEvent* Event = FSlateApplication::Get().GetRoutedEvent())
 	{
-		Raise(FString::Printf(
-			TEXT("The editor cannot be driven from within the event '%s' of %s"), Event->Kind, *WidgetFinder::Describe(*Event->Widget)));
+		Raise(FString::Printf(TEXT("The editor cannot be driven from within the event '%s' of %s"), Event->Kind,
+			*WidgetFinder::Describe(*Event->Widget)));
 		return false;
 	}
 	return true;
@@ -228,7 +228,8 @@ bool UEditorDriver::IsVisible(const FString& Tab, const FString& Type, const FSt
 {
 	FString Unused;
 	const TSharedPtr<SWidget> Widget = WidgetFinder::Find({Tab, Type, Text, Index}, Unused);
-	return Widget.IsValid() && Widget->IsShownInFrame() && Widget->GetVisibility().IsVisible() && !Widget->GetPaintBounds().IsEmpty();
+	return Widget.IsValid() && Widget->IsShownInFrame() && Widget->GetVisibility().IsVisible() &&
+		!Widget->GetPaintBounds().IsEmpty();
 }
 
 int32 UEditorDriver::Count(const FString& Tab, const FString& Type, const FString& Text)

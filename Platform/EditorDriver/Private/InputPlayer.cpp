@@ -29,8 +29,8 @@ struct FKeyCodes
 
 void HoldModifiers(const InputPlayer::FChord& Chord)
 {
-	App().GetPlatformApplication()->SetModifierKeys(FModifierKeysState(
-		Chord.bShift, false, Chord.bControl, false, Chord.bAlt, false, Chord.bCommand, false, false));
+	App().GetPlatformApplication()->SetModifierKeys(
+		FModifierKeysState(Chord.bShift, false, Chord.bControl, false, Chord.bAlt, false, Chord.bCommand, false, false));
 }
 
 /** Other names under which people know keys. */
@@ -50,6 +50,8 @@ FString GetKeyName(const FString& Name)
 
 void InputPlayer::Run(double Seconds)
 {
+	// The script that asks has run until here, and may have changed anything.
+	App().RequestFrame();
 	const double End = FApp::GetCurrentTime() + Seconds;
 	do
 	{

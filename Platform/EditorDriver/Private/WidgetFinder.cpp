@@ -116,14 +116,15 @@ TArray<TSharedRef<SWidget>> WidgetFinder::FindAll(const FWidgetDescription& Desc
 	TArray<TSharedRef<SWidget>> Result;
 	if (const TSharedPtr<SWidget> Root = FindRoot(Description.Tab))
 	{
-		Visit(*Root, 0, [&](SWidget& Widget, int32)
-		{
-			if (IsOfDescribedType(Widget, Description.Type) &&
-				(Description.Text.IsEmpty() || GetShownText(Widget).Equals(Description.Text)))
+		Visit(*Root, 0,
+			[&](SWidget& Widget, int32)
 			{
-				Result.Add(Widget.AsShared());
-			}
-		});
+				if (IsOfDescribedType(Widget, Description.Type) &&
+					(Description.Text.IsEmpty() || GetShownText(Widget).Equals(Description.Text)))
+				{
+					Result.Add(Widget.AsShared());
+				}
+			});
 	}
 	return Result;
 }
@@ -154,15 +155,16 @@ FString WidgetFinder::GetShownText(SWidget& Widget)
 {
 	FString Result;
 	bool bFound = false;
-	Visit(Widget, 0, [&](SWidget& Each, int32)
-	{
-		if (!bFound)
+	Visit(Widget, 0,
+		[&](SWidget& Each, int32)
 		{
-			const TOptional<FString> Text = GetOwnText(Each);
-			bFound = Text.IsSet() && (!Text.GetValue().IsEmpty() || &Each == &Widget);
-			Result = bFound ? Text.GetValue() : FString();
-		}
-	});
+			if (!bFound)
+			{
+				const TOptional<FString> Text = GetOwnText(Each);
+				bFound = Text.IsSet() && (!Text.GetValue().IsEmpty() || &Each == &Widget);
+				Result = bFound ? Text.GetValue() : FString();
+			}
+		});
 	return Result;
 }
 
@@ -181,24 +183,25 @@ FString WidgetFinder::Describe(SWidget& Widget)
 FString WidgetFinder::Dump(SWidget& Root)
 {
 	FString Result;
-	Visit(Root, 0, [&](SWidget& Widget, int32 Depth)
-	{
-		const TOptional<FString> Text = GetOwnText(Widget);
-		const FName Aka = GetAkaName(Widget);
-		Result += FString::ChrN(Depth * 2, TEXT(' ')) + Widget.GetTypeAsString();
-		Result += Aka.IsNone() ? FString() : TEXT(" #") + Aka.ToString();
-		Result += Text.IsSet() ? TEXT(" \"") + Text.GetValue() + TEXT("\"") : FString();
-		if (Widget.IsShownInFrame())
+	Visit(Root, 0,
+		[&](SWidget& Widget, int32 Depth)
 		{
-			const FSlateRect Place = Widget.GetPaintSpaceGeometry().GetLayoutBoundingRect();
-			Result += FString::Printf(TEXT(" %d,%d %dx%d"), FMath::RoundToInt(Place.Left), FMath::RoundToInt(Place.Top),
-				FMath::RoundToInt(Place.Right - Place.Left), FMath::RoundToInt(Place.Bottom - Place.Top));
-		}
-		else
-		{
-			Result += TEXT(" (not shown)");
-		}
-		Result += TEXT("\n");
-	});
+			const TOptional<FString> Text = GetOwnText(Widget);
+			const FName Aka = GetAkaName(Widget);
+			Result += FString::ChrN(Depth * 2, TEXT(' ')) + Widget.GetTypeAsString();
+			Result += Aka.IsNone() ? FString() : TEXT(" #") + Aka.ToString();
+			Result += Text.IsSet() ? TEXT(" \"") + Text.GetValue() + TEXT("\"") : FString();
+			if (Widget.IsShownInFrame())
+			{
+				const FSlateRect Place = Widget.GetPaintSpaceGeometry().GetLayoutBoundingRect();
+				Result += FString::Printf(TEXT(" %d,%d %dx%d"), FMath::RoundToInt(Place.Left), FMath::RoundToInt(Place.Top),
+					FMath::RoundToInt(Place.Right - Place.Left), FMath::RoundToInt(Place.Bottom - Place.Top));
+			}
+			else
+			{
+				Result += TEXT(" (not shown)");
+			}
+			Result += TEXT("\n");
+		});
 	return Result;
 }

@@ -54,8 +54,8 @@ public:
 	 * @return The deepest widget under the mouse.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")
-	static FString Hover(const FString& Tab, const FString& Type, const FString& Text = "", int32 Index = 0, float U = 0.5f,
-		float V = 0.5f);
+	static FString Hover(
+		const FString& Tab, const FString& Type, const FString& Text = "", int32 Index = 0, float U = 0.5f, float V = 0.5f);
 
 	/**
 	 * Presses the left button on a widget, moves in ten steps, and releases it.

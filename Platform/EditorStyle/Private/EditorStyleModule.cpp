@@ -12,7 +12,8 @@ namespace
 class FEditorStyleSet final : public FSlateStyleSet
 {
 public:
-	FEditorStyleSet() : FSlateStyleSet("EditorStyle")
+	FEditorStyleSet()
+		: FSlateStyleSet("EditorStyle")
 	{
 		SetParentStyleName(FCoreStyle::Get().GetStyleSetName());
 		Set("ToolPanel.GroupBorder", MakeGroup(Palette::Panel));

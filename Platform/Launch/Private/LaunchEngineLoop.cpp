@@ -46,7 +46,8 @@ bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 	ProjectFile = FPaths::ConvertRelativePathToFull(ProjectFile);
 	if (FPaths::GetExtension(ProjectFile) != TEXT("uproject") || !FPaths::FileExists(ProjectFile))
 	{
-		std::fprintf(stderr, "'%s' is not a project file. The first argument names a .uproject file.\n", TCHAR_TO_UTF8(*ProjectFile));
+		std::fprintf(
+			stderr, "'%s' is not a project file. The first argument names a .uproject file.\n", TCHAR_TO_UTF8(*ProjectFile));
 		return false;
 	}
 	FPaths::SetProjectFilePath(ProjectFile);
@@ -87,7 +88,8 @@ void FEngineLoop::Init()
 	OpenMainWindow();
 
 	IPluginManager& Plugins = IPluginManager::Get();
-	for (const ELoadingPhase::Type Phase : {ELoadingPhase::PreDefault, ELoadingPhase::Default, ELoadingPhase::PostDefault, ELoadingPhase::PostEngineInit})
+	for (const ELoadingPhase::Type Phase :
+		{ELoadingPhase::PreDefault, ELoadingPhase::Default, ELoadingPhase::PostDefault, ELoadingPhase::PostEngineInit})
 	{
 		Plugins.LoadModulesForEnabledPlugins(Phase);
 	}
@@ -98,10 +100,10 @@ void FEngineLoop::Init()
 void FEngineLoop::OpenMainWindow()
 {
 	const FText Title = FText::FromString(FString::Printf(TEXT("Untitled - %s - Unreal Editor"), FApp::GetProjectName()));
-	const TSharedRef<FTabManager::FLayout> Layout = FTabManager::NewLayout("MainFrame")->AddArea(
-		FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack()));
-	MainWindow = SNew(SWindow).Title(Title).ClientSize(MainWindowSize)
-		[FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()];
+	const TSharedRef<FTabManager::FLayout> Layout =
+		FTabManager::NewLayout("MainFrame")->AddArea(FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack()));
+	MainWindow = SNew(SWindow).Title(Title).ClientSize(
+		MainWindowSize)[FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()];
 	MainWindow->SetRequestDestroyWindowOverride(
 		FRequestDestroyWindowOverride::CreateRaw(this, &FEngineLoop::OnMainWindowWantsToClose));
 	FSlateApplication::Get().AddWindow(MainWindow.ToSharedRef());

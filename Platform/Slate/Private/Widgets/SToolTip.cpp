@@ -14,7 +14,17 @@ void SToolTip::Construct(const FArguments& InArgs)
 {
 	TextContent = InArgs._Text;
 	SetVisibility(EVisibility::HitTestInvisible);
-	ChildSlot[SNew(SBorder)
-				  .BorderImage(FAppStyle::Get().GetBrush("ToolTip.Background"))
-				  .Padding(FMargin(10.0f, 6.0f))[SNew(STextBlock).Text(InArgs._Text).WrapTextAt(WrapWidth)]];
+	// clang-format off
+	ChildSlot
+	[
+		SNew(SBorder)
+		.BorderImage(FAppStyle::Get().GetBrush("ToolTip.Background"))
+		.Padding(FMargin(10.0f, 6.0f))
+		[
+			SNew(STextBlock)
+			.Text(InArgs._Text)
+			.WrapTextAt(WrapWidth)
+		]
+	];
+	// clang-format on
 }

@@ -18,7 +18,8 @@ constexpr float CornerRadius = 4.0f;
 
 FSlateRoundedBoxBrush RoundedBox(const FColor& Fill, const FColor& OutlineColor, float OutlineWidth = 1.0f)
 {
-	return FSlateRoundedBoxBrush(FSlateColor(FLinearColor(Fill)), CornerRadius, FSlateColor(FLinearColor(OutlineColor)), OutlineWidth);
+	return FSlateRoundedBoxBrush(
+		FSlateColor(FLinearColor(Fill)), CornerRadius, FSlateColor(FLinearColor(OutlineColor)), OutlineWidth);
 }
 
 FSlateColorBrush Fill(const FColor& Color)
@@ -35,7 +36,8 @@ FSlateColor Text(const FColor& Color)
 class FCoreStyleSet final : public FSlateStyleSet
 {
 public:
-	FCoreStyleSet() : FSlateStyleSet("CoreStyle")
+	FCoreStyleSet()
+		: FSlateStyleSet("CoreStyle")
 	{
 		SetContentRoot(FPaths::EngineContentDir() / TEXT("Slate"));
 		SetBrushes();
@@ -51,7 +53,8 @@ public:
 private:
 	FSlateVectorImageBrush Icon(const TCHAR* Name, float Size, const FColor& Tint) const
 	{
-		return FSlateVectorImageBrush(RootToContentDir(FString(TEXT("Icons/")) + Name, TEXT(".svg")), FVector2D(Size, Size), Text(Tint));
+		return FSlateVectorImageBrush(
+			RootToContentDir(FString(TEXT("Icons/")) + Name, TEXT(".svg")), FVector2D(Size, Size), Text(Tint));
 	}
 
 	void SetBrushes()
@@ -63,7 +66,8 @@ private:
 		Set("Window.Background", new FSlateColorBrush(Fill(Palette::Window)));
 		Set("Border", new FSlateRoundedBoxBrush(RoundedBox(Palette::Panel, Palette::Outline)));
 		Set("ToolTip.Background", new FSlateRoundedBoxBrush(RoundedBox(Palette::DarkPanel, Palette::Outline)));
-		Set("FocusRectangle", new FSlateRoundedBoxBrush(FSlateColor(FLinearColor::Transparent), CornerRadius, Text(Palette::Accent), 1.5f));
+		Set("FocusRectangle",
+			new FSlateRoundedBoxBrush(FSlateColor(FLinearColor::Transparent), CornerRadius, Text(Palette::Accent), 1.5f));
 		Set("DefaultForeground", Text(Palette::Foreground));
 		Set("DimForeground", Text(Palette::ForegroundDim));
 	}
@@ -81,7 +85,10 @@ private:
 		Set("NormalText", Normal);
 		Set("NormalText.Subdued", FTextBlockStyle(Normal).SetColorAndOpacity(Text(Palette::ForegroundDim)));
 		Set("SmallText", FTextBlockStyle(Normal).SetFont(FCoreStyle::GetDefaultFontStyle("Regular", SmallTextSize)));
-		Set("LargeText", FTextBlockStyle(Normal).SetFont(FCoreStyle::GetDefaultFontStyle("Bold", 14)).SetColorAndOpacity(Text(Palette::ForegroundBright)));
+		Set("LargeText",
+			FTextBlockStyle(Normal)
+				.SetFont(FCoreStyle::GetDefaultFontStyle("Bold", 14))
+				.SetColorAndOpacity(Text(Palette::ForegroundBright)));
 		Set("SmallButtonText", Normal);
 		Set("ButtonText", Normal);
 	}
@@ -90,53 +97,63 @@ private:
 	{
 		// Wide enough that tools may take 16 from it on either side.
 		const FMargin Padding(22.0f, 4.0f);
-		const FButtonStyle Button = FButtonStyle()
-										.SetNormal(RoundedBox(Palette::Button, Palette::Outline))
-										.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::Outline))
-										.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::Accent))
-										.SetDisabled(RoundedBox(Palette::ButtonDisabled, Palette::Outline))
-										.SetNormalForeground(Text(Palette::Foreground))
-										.SetHoveredForeground(Text(Palette::ForegroundBright))
-										.SetPressedForeground(Text(Palette::ForegroundBright))
-										.SetDisabledForeground(Text(Palette::ForegroundDisabled))
-										.SetNormalPadding(Padding)
-										.SetPressedPadding(FMargin(Padding.Left, Padding.Top + 1.0f, Padding.Right, Padding.Bottom - 1.0f));
+		const FButtonStyle Button =
+			FButtonStyle()
+				.SetNormal(RoundedBox(Palette::Button, Palette::Outline))
+				.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::Outline))
+				.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::Accent))
+				.SetDisabled(RoundedBox(Palette::ButtonDisabled, Palette::Outline))
+				.SetNormalForeground(Text(Palette::Foreground))
+				.SetHoveredForeground(Text(Palette::ForegroundBright))
+				.SetPressedForeground(Text(Palette::ForegroundBright))
+				.SetDisabledForeground(Text(Palette::ForegroundDisabled))
+				.SetNormalPadding(Padding)
+				.SetPressedPadding(FMargin(Padding.Left, Padding.Top + 1.0f, Padding.Right, Padding.Bottom - 1.0f));
 		Set("Button", Button);
-		Set("PrimaryButton", FButtonStyle(Button)
-								 .SetNormal(RoundedBox(Palette::AccentPressed, Palette::AccentPressed))
-								 .SetHovered(RoundedBox(Palette::Accent, Palette::Accent))
-								 .SetPressed(RoundedBox(Palette::Selection, Palette::Accent))
-								 .SetNormalForeground(Text(Palette::ForegroundBright)));
-		Set("SimpleButton", FButtonStyle()
-								.SetNormal(FSlateNoResource())
-								.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::ButtonHovered))
-								.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::ButtonPressed))
-								.SetDisabled(FSlateNoResource())
-								.SetNormalForeground(Text(Palette::ForegroundDim))
-								.SetHoveredForeground(Text(Palette::ForegroundBright))
-								.SetPressedForeground(Text(Palette::ForegroundBright))
-								.SetDisabledForeground(Text(Palette::ForegroundDisabled)));
+		Set("PrimaryButton",
+			FButtonStyle(Button)
+				.SetNormal(RoundedBox(Palette::AccentPressed, Palette::AccentPressed))
+				.SetHovered(RoundedBox(Palette::Accent, Palette::Accent))
+				.SetPressed(RoundedBox(Palette::Selection, Palette::Accent))
+				.SetNormalForeground(Text(Palette::ForegroundBright)));
+		Set("SimpleButton",
+			FButtonStyle()
+				.SetNormal(FSlateNoResource())
+				.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::ButtonHovered))
+				.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::ButtonPressed))
+				.SetDisabled(FSlateNoResource())
+				.SetNormalForeground(Text(Palette::ForegroundDim))
+				.SetHoveredForeground(Text(Palette::ForegroundBright))
+				.SetPressedForeground(Text(Palette::ForegroundBright))
+				.SetDisabledForeground(Text(Palette::ForegroundDisabled)));
 	}
 
 	void SetCheckBoxes()
 	{
-		const auto Image = [this](const TCHAR* Name, const FColor& Tint) { return Icon(Name, 16.0f, Tint); };
-		Set("Checkbox", FCheckBoxStyle()
-							.SetUncheckedImage(Image(TEXT("CheckBox"), Palette::ForegroundDim))
-							.SetUncheckedHoveredImage(Image(TEXT("CheckBox"), Palette::ForegroundBright))
-							.SetUncheckedPressedImage(Image(TEXT("CheckBox"), Palette::Accent))
-							.SetCheckedImage(Image(TEXT("CheckBoxChecked"), Palette::Accent))
-							.SetCheckedHoveredImage(Image(TEXT("CheckBoxChecked"), Palette::AccentHovered))
-							.SetCheckedPressedImage(Image(TEXT("CheckBoxChecked"), Palette::AccentPressed))
-							.SetUndeterminedImage(Image(TEXT("CheckBoxUndetermined"), Palette::Accent))
-							.SetUndeterminedHoveredImage(Image(TEXT("CheckBoxUndetermined"), Palette::AccentHovered))
-							.SetUndeterminedPressedImage(Image(TEXT("CheckBoxUndetermined"), Palette::AccentPressed))
-							.SetPadding(FMargin(6.0f, 0.0f, 0.0f, 0.0f)));
+		const auto Image = [this](const TCHAR* Name, const FColor& Tint)
+		{
+			return Icon(Name, 16.0f, Tint);
+		};
+		Set("Checkbox",
+			FCheckBoxStyle()
+				.SetUncheckedImage(Image(TEXT("CheckBox"), Palette::ForegroundDim))
+				.SetUncheckedHoveredImage(Image(TEXT("CheckBox"), Palette::ForegroundBright))
+				.SetUncheckedPressedImage(Image(TEXT("CheckBox"), Palette::Accent))
+				.SetCheckedImage(Image(TEXT("CheckBoxChecked"), Palette::Accent))
+				.SetCheckedHoveredImage(Image(TEXT("CheckBoxChecked"), Palette::AccentHovered))
+				.SetCheckedPressedImage(Image(TEXT("CheckBoxChecked"), Palette::AccentPressed))
+				.SetUndeterminedImage(Image(TEXT("CheckBoxUndetermined"), Palette::Accent))
+				.SetUndeterminedHoveredImage(Image(TEXT("CheckBoxUndetermined"), Palette::AccentHovered))
+				.SetUndeterminedPressedImage(Image(TEXT("CheckBoxUndetermined"), Palette::AccentPressed))
+				.SetPadding(FMargin(6.0f, 0.0f, 0.0f, 0.0f)));
 	}
 
 	FScrollBarStyle MakeScrollBar() const
 	{
-		const auto Thumb = [](const FColor& Color) { return FSlateRoundedBoxBrush(Text(Color), 3.0f); };
+		const auto Thumb = [](const FColor& Color)
+		{
+			return FSlateRoundedBoxBrush(Text(Color), 3.0f);
+		};
 		return FScrollBarStyle()
 			.SetHorizontalBackgroundImage(FSlateNoResource())
 			.SetVerticalBackgroundImage(FSlateNoResource())
@@ -159,36 +176,40 @@ private:
 													.SetBackgroundImageSelected(Fill(Palette::Selection))
 													.SetCaretImage(Fill(Palette::ForegroundBright));
 		Set("NormalEditableText", EditableText);
-		Set("NormalEditableTextBox", FEditableTextBoxStyle()
-										 .SetTextStyle(EditableText)
-										 .SetBackgroundImageNormal(RoundedBox(Palette::Input, Palette::Outline))
-										 .SetBackgroundImageHovered(RoundedBox(Palette::InputHovered, Palette::ScrollThumbHovered))
-										 .SetBackgroundImageFocused(RoundedBox(Palette::Input, Palette::Accent))
-										 .SetBackgroundImageReadOnly(RoundedBox(Palette::InputReadOnly, Palette::Outline))
-										 .SetForegroundColor(Text(Palette::Foreground))
-										 .SetFocusedForegroundColor(Text(Palette::ForegroundBright))
-										 .SetReadOnlyForegroundColor(Text(Palette::Foreground))
-										 .SetPadding(FMargin(8.0f, 4.0f))
-										 .SetScrollBarStyle(MakeScrollBar()));
+		Set("NormalEditableTextBox",
+			FEditableTextBoxStyle()
+				.SetTextStyle(EditableText)
+				.SetBackgroundImageNormal(RoundedBox(Palette::Input, Palette::Outline))
+				.SetBackgroundImageHovered(RoundedBox(Palette::InputHovered, Palette::ScrollThumbHovered))
+				.SetBackgroundImageFocused(RoundedBox(Palette::Input, Palette::Accent))
+				.SetBackgroundImageReadOnly(RoundedBox(Palette::InputReadOnly, Palette::Outline))
+				.SetForegroundColor(Text(Palette::Foreground))
+				.SetFocusedForegroundColor(Text(Palette::ForegroundBright))
+				.SetReadOnlyForegroundColor(Text(Palette::Foreground))
+				.SetPadding(FMargin(8.0f, 4.0f))
+				.SetScrollBarStyle(MakeScrollBar()));
 	}
 
 	void SetTabs()
 	{
 		const FVector4 TopCorners(CornerRadius, CornerRadius, 0.0, 0.0);
-		const FButtonStyle CloseButton = FButtonStyle(GetWidgetStyle<FButtonStyle>("SimpleButton")).SetNormalPadding(FMargin(2.0f)).SetPressedPadding(FMargin(2.0f));
+		const FButtonStyle CloseButton = FButtonStyle(GetWidgetStyle<FButtonStyle>("SimpleButton"))
+											 .SetNormalPadding(FMargin(2.0f))
+											 .SetPressedPadding(FMargin(2.0f));
 		Set("Docking.Tab.CloseIcon", new FSlateVectorImageBrush(Icon(TEXT("Close"), 12.0f, Palette::ForegroundBright)));
-		Set("Docking.Tab", FDockTabStyle()
-							   .SetCloseButtonStyle(CloseButton)
-							   .SetNormalBrush(FSlateNoResource())
-							   .SetHoveredBrush(FSlateRoundedBoxBrush(Text(Palette::DarkPanel), TopCorners))
-							   .SetForegroundBrush(FSlateRoundedBoxBrush(Text(Palette::Panel), TopCorners))
-							   .SetContentAreaBrush(Fill(Palette::Panel))
-							   .SetTabWellBrush(Fill(Palette::Window))
-							   .SetTabTextStyle(GetWidgetStyle<FTextBlockStyle>("NormalText"))
-							   .SetNormalForegroundColor(Text(Palette::ForegroundDim))
-							   .SetForegroundForegroundColor(Text(Palette::ForegroundBright))
-							   .SetActiveStripeBrush(Fill(Palette::Accent))
-							   .SetFlashColor(Text(Palette::Accent)));
+		Set("Docking.Tab",
+			FDockTabStyle()
+				.SetCloseButtonStyle(CloseButton)
+				.SetNormalBrush(FSlateNoResource())
+				.SetHoveredBrush(FSlateRoundedBoxBrush(Text(Palette::DarkPanel), TopCorners))
+				.SetForegroundBrush(FSlateRoundedBoxBrush(Text(Palette::Panel), TopCorners))
+				.SetContentAreaBrush(Fill(Palette::Panel))
+				.SetTabWellBrush(Fill(Palette::Window))
+				.SetTabTextStyle(GetWidgetStyle<FTextBlockStyle>("NormalText"))
+				.SetNormalForegroundColor(Text(Palette::ForegroundDim))
+				.SetForegroundForegroundColor(Text(Palette::ForegroundBright))
+				.SetActiveStripeBrush(Fill(Palette::Accent))
+				.SetFlashColor(Text(Palette::Accent)));
 	}
 };
 }

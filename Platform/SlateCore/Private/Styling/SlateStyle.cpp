@@ -6,7 +6,10 @@
 
 DEFINE_LOG_CATEGORY_STATIC(LogSlateStyle, Log, All);
 
-FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName) : StyleSetName(InStyleSetName) {}
+FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
+	: StyleSetName(InStyleSetName)
+{
+}
 
 FSlateStyleSet::~FSlateStyleSet() = default;
 
@@ -141,7 +144,8 @@ const FMargin& FSlateStyleSet::GetMargin(const FName PropertyName) const
 	return NoMargin;
 }
 
-const FSlateWidgetStyle* FSlateStyleSet::GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, bool bWarn) const
+const FSlateWidgetStyle* FSlateStyleSet::GetWidgetStyleInternal(
+	const FName DesiredTypeName, const FName StyleName, bool bWarn) const
 {
 	const TSharedRef<FSlateWidgetStyle>* Own = WidgetStyles.Find(StyleName);
 	if (Own && (*Own)->GetTypeName() == DesiredTypeName)

@@ -105,7 +105,7 @@ public:
 			for (int32 Column = Row & 1; Column * Square < Size.X; Column += 2)
 			{
 				cairo_rectangle(Cairo, Column * Square, Row * Square, FMath::Min(Square, Size.X - Column * Square),
-								FMath::Min(Square, Size.Y - Row * Square));
+					FMath::Min(Square, Size.Y - Row * Square));
 			}
 		}
 		cairo_fill(Cairo);

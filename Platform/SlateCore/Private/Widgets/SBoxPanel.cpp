@@ -45,7 +45,8 @@ struct FRoomToShare
 	float Room;
 	float SumOfCoefficients = 0.0f;
 
-	FRoomToShare(EOrientation Orientation, const TPanelChildren<FBoxPanelSlot>& Children, float AllottedRoom) : Room(AllottedRoom)
+	FRoomToShare(EOrientation Orientation, const TPanelChildren<FBoxPanelSlot>& Children, float AllottedRoom)
+		: Room(AllottedRoom)
 	{
 		for (int32 Index = 0; Index < Children.Num(); ++Index)
 		{
@@ -87,8 +88,8 @@ FVector2D SBoxPanel::ComputeDesiredSize(float LayoutScaleMultiplier) const
 		}
 		const FVector2D PaddingSize = Slot.GetPadding().GetDesiredSize();
 		SumAlong += DesiredAlong(Orientation, Slot) + Along(Orientation, PaddingSize);
-		MaxAcross = FMath::Max(
-			MaxAcross, Across(Orientation, Slot.GetWidget()->GetDesiredSize()) + Across(Orientation, PaddingSize));
+		MaxAcross =
+			FMath::Max(MaxAcross, Across(Orientation, Slot.GetWidget()->GetDesiredSize()) + Across(Orientation, PaddingSize));
 	}
 	return MakeVector(Orientation, SumAlong, MaxAcross);
 }
@@ -107,10 +108,8 @@ void SBoxPanel::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedCh
 			continue;
 		}
 		const bool bStretches = Slot.GetSizeRule().SizeRule == FSizeParam::SizeRule_Stretch;
-		const float Size =
-			bStretches ? LimitSize(Slot, ToShare.ShareOf(Slot)) : DesiredAlong(Orientation, Slot);
-		const FVector2D SlotSize =
-			MakeVector(Orientation, Size + PaddingAlong(Orientation, Slot), Across(Orientation, Room));
+		const float Size = bStretches ? LimitSize(Slot, ToShare.ShareOf(Slot)) : DesiredAlong(Orientation, Slot);
+		const FVector2D SlotSize = MakeVector(Orientation, Size + PaddingAlong(Orientation, Slot), Across(Orientation, Room));
 
 		const FVector2D& Desired = Slot.GetWidget()->GetDesiredSize();
 		const AlignmentArrangeResult X = AlignChild(Slot.GetHorizontalAlignment(), SlotSize.X, Desired.X, Slot.GetPadding());

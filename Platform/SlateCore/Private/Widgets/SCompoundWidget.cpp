@@ -8,7 +8,10 @@ int32 FCompoundWidgetSlot::Num() const
 	return GetWidget() == SNullWidget::NullWidget ? 0 : 1;
 }
 
-SCompoundWidget::SCompoundWidget() : ChildSlot(*this) {}
+SCompoundWidget::SCompoundWidget()
+	: ChildSlot(*this)
+{
+}
 
 FVector2D SCompoundWidget::ComputeDesiredSize(float LayoutScaleMultiplier) const
 {

@@ -46,8 +46,8 @@ int32 SOverlay::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometr
 	{
 		if (Args.GetDamage().Intersects(Child->GetPaintBounds()))
 		{
-			HighestLayer = Child->Paint(Args, MyCullingRect, OutDrawElements, HighestLayer + 1, InWidgetStyle,
-				ShouldBeEnabled(bParentEnabled));
+			HighestLayer = Child->Paint(
+				Args, MyCullingRect, OutDrawElements, HighestLayer + 1, InWidgetStyle, ShouldBeEnabled(bParentEnabled));
 		}
 	}
 	return HighestLayer;

@@ -251,7 +251,8 @@ bool SWidget::HasMouseCapture() const
 TSharedRef<FActiveTimerHandle> SWidget::RegisterActiveTimer(float TickPeriod, FWidgetActiveTimerDelegate TickFunction)
 {
 	const double Now = FSlateApplicationBase::Get().GetCurrentTime();
-	const TSharedRef<FActiveTimerHandle> Handle = MakeShared<FActiveTimerHandle>(TickPeriod, MoveTemp(TickFunction), Now + TickPeriod);
+	const TSharedRef<FActiveTimerHandle> Handle =
+		MakeShared<FActiveTimerHandle>(TickPeriod, MoveTemp(TickFunction), Now + TickPeriod);
 	GetOrMakeExtras().ActiveTimers.Add(Handle);
 	FFrameCalledWidgets::Get().Add(*this);
 	return Handle;

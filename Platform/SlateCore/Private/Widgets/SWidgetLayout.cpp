@@ -82,7 +82,8 @@ void SWidget::SlatePrepass(float LayoutScaleMultiplier)
 
 FSlateRect SWidget::GetClipOfChildren() const
 {
-	return Clipping == EWidgetClipping::Inherit ? ClipRect : ClipRect.IntersectionWith(PaintSpaceGeometry.GetLayoutBoundingRect());
+	return Clipping == EWidgetClipping::Inherit ? ClipRect
+												: ClipRect.IntersectionWith(PaintSpaceGeometry.GetLayoutBoundingRect());
 }
 
 FSlateRect SWidget::RoomOf(const FGeometry& Geometry) const
@@ -163,7 +164,8 @@ void SWidget::ArrangeAnew(const FSlateRect& ChildClip, FSlateDamage& Damage)
 	{
 		const FArrangedWidget& Place = Arranged[Index];
 		SWidget& Child = Place.Widget.Get();
-		if (&Child == &SNullWidget::NullWidget.Get() || !FSlateRect::DoRectanglesIntersect(Child.RoomOf(Place.Geometry), ChildClip))
+		if (&Child == &SNullWidget::NullWidget.Get() ||
+			!FSlateRect::DoRectanglesIntersect(Child.RoomOf(Place.Geometry), ChildClip))
 		{
 			continue;
 		}

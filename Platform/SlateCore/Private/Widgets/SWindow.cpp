@@ -85,7 +85,8 @@ void SWindow::SetCachedSize(FVector2D InSize)
 	}
 	Size = NewSize;
 	bSizeChanged = true;
-	FSlateApplicationBase::Get().GetRenderer()->RequestResize(this, FIntPoint(FMath::RoundToInt(Size.X), FMath::RoundToInt(Size.Y)));
+	FSlateApplicationBase::Get().GetRenderer()->RequestResize(
+		this, FIntPoint(FMath::RoundToInt(Size.X), FMath::RoundToInt(Size.Y)));
 	DamageAll();
 }
 
@@ -163,7 +164,8 @@ void SWindow::UpdateLayout()
 	bSizeChanged = false;
 	const float Scale = GetDPIScaleFactor();
 	SlatePrepass(Scale);
-	UpdateArrangement(FGeometry::MakeRoot(Size / Scale, FSlateLayoutTransform(Scale)), FSlateRect(0.0f, 0.0f, Size.X, Size.Y), Damage);
+	UpdateArrangement(
+		FGeometry::MakeRoot(Size / Scale, FSlateLayoutTransform(Scale)), FSlateRect(0.0f, 0.0f, Size.X, Size.Y), Damage);
 }
 
 void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements) const
@@ -175,8 +177,8 @@ void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowEleme
 	FWidgetStyle Style;
 	Style.SetForegroundColor(FAppStyle::Get().GetSlateColor("DefaultForeground"));
 	const FSlateBrush& Background = *FAppStyle::Get().GetBrush("Window.Background");
-	FSlateDrawElement::MakeBox(OutDrawElements, 0, GetPaintSpaceGeometry().ToPaintGeometry(), &Background,
-		ESlateDrawEffect::None, Background.GetTint(Style));
+	FSlateDrawElement::MakeBox(OutDrawElements, 0, GetPaintSpaceGeometry().ToPaintGeometry(), &Background, ESlateDrawEffect::None,
+		Background.GetTint(Style));
 	const FPaintArgs Args(Damage, CurrentTime, DeltaTime);
 	Paint(Args, FSlateRect(0.0f, 0.0f, Size.X, Size.Y), OutDrawElements, 1, Style, true);
 }

@@ -27,7 +27,11 @@ enum class EFocusCause : uint8
 class FFocusEvent
 {
 public:
-	explicit FFocusEvent(EFocusCause InCause, uint32 InUserIndex = 0) : Cause(InCause), UserIndex(InUserIndex) {}
+	explicit FFocusEvent(EFocusCause InCause, uint32 InUserIndex = 0)
+		: Cause(InCause)
+		, UserIndex(InUserIndex)
+	{
+	}
 
 	EFocusCause GetCause() const { return Cause; }
 	uint32 GetUser() const { return UserIndex; }
@@ -40,7 +44,11 @@ private:
 class FInputEvent
 {
 public:
-	FInputEvent(const FModifierKeysState& InModifierKeys, bool bInIsRepeat) : ModifierKeys(InModifierKeys), bIsRepeat(bInIsRepeat) {}
+	FInputEvent(const FModifierKeysState& InModifierKeys, bool bInIsRepeat)
+		: ModifierKeys(InModifierKeys)
+		, bIsRepeat(bInIsRepeat)
+	{
+	}
 
 	bool IsRepeat() const { return bIsRepeat; }
 	bool IsShiftDown() const { return ModifierKeys.IsShiftDown(); }

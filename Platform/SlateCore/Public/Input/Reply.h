@@ -53,7 +53,10 @@ public:
 	EFocusCause GetFocusCause() const { return FocusChangeReason; }
 
 private:
-	explicit FReply(bool bInIsHandled) : bIsHandled(bInIsHandled) {}
+	explicit FReply(bool bInIsHandled)
+		: bIsHandled(bInIsHandled)
+	{
+	}
 
 	TSharedPtr<SWidget> MouseCaptor;
 	TSharedPtr<SWidget> FocusRecipient;

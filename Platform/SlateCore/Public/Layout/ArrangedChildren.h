@@ -8,7 +8,10 @@
 class FArrangedChildren
 {
 public:
-	explicit FArrangedChildren(EVisibility InVisibilityFilter) : VisibilityFilter(InVisibilityFilter) {}
+	explicit FArrangedChildren(EVisibility InVisibilityFilter)
+		: VisibilityFilter(InVisibilityFilter)
+	{
+	}
 
 	void AddWidget(const FArrangedWidget& InWidgetGeometry) { Array.Add(InWidgetGeometry); }
 

@@ -52,9 +52,15 @@ template <typename SlotType, typename ArgumentsType>
 class TAlignedSlotArguments : public TSlotArguments<SlotType>
 {
 public:
-	ArgumentsType& Padding(const FMargin& InPadding) { return With([&](SlotType& Slot) { Slot.SetPadding(InPadding); }); }
+	ArgumentsType& Padding(const FMargin& InPadding)
+	{
+		return With([&](SlotType& Slot) { Slot.SetPadding(InPadding); });
+	}
 	ArgumentsType& Padding(float Horizontal, float Vertical) { return Padding(FMargin(Horizontal, Vertical)); }
-	ArgumentsType& Padding(float Left, float Top, float Right, float Bottom) { return Padding(FMargin(Left, Top, Right, Bottom)); }
+	ArgumentsType& Padding(float Left, float Top, float Right, float Bottom)
+	{
+		return Padding(FMargin(Left, Top, Right, Bottom));
+	}
 
 	ArgumentsType& HAlign(EHorizontalAlignment InAlignment)
 	{

@@ -49,7 +49,10 @@ template <typename SlotType>
 class TSlotArguments
 {
 public:
-	TSlotArguments() : Slot(MakeUnique<SlotType>()) {}
+	TSlotArguments()
+		: Slot(MakeUnique<SlotType>())
+	{
+	}
 	TSlotArguments(TSlotArguments&&) = default;
 	TSlotArguments& operator=(TSlotArguments&&) = default;
 
@@ -67,7 +70,10 @@ template <typename SlotType>
 class TPanelChildren final : public FChildren
 {
 public:
-	explicit TPanelChildren(SWidget& InOwner) : Owner(InOwner) {}
+	explicit TPanelChildren(SWidget& InOwner)
+		: Owner(InOwner)
+	{
+	}
 
 	virtual int32 Num() const override { return Slots.Num(); }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) const override { return Slots[Index]->GetWidget(); }
@@ -139,7 +145,11 @@ template <typename SlotType, typename SlotArgumentsType>
 class TScopedSlotArguments : public SlotArgumentsType
 {
 public:
-	TScopedSlotArguments(TPanelChildren<SlotType>& InChildren, int32 InIndex) : Children(&InChildren), Index(InIndex) {}
+	TScopedSlotArguments(TPanelChildren<SlotType>& InChildren, int32 InIndex)
+		: Children(&InChildren)
+		, Index(InIndex)
+	{
+	}
 
 	TScopedSlotArguments(TScopedSlotArguments&& Other)
 		: SlotArgumentsType(MoveTemp(Other))

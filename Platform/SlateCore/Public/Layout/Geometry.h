@@ -31,7 +31,10 @@ struct SLATECORE_API FGeometry
 	const FVector2D& GetLocalSize() const { return Size; }
 	FVector2D GetAbsolutePosition() const { return AbsolutePosition; }
 	FVector2D GetAbsoluteSize() const { return Size * Scale; }
-	FVector2D AbsoluteToLocal(const FVector2D& AbsoluteCoordinate) const { return (AbsoluteCoordinate - AbsolutePosition) / Scale; }
+	FVector2D AbsoluteToLocal(const FVector2D& AbsoluteCoordinate) const
+	{
+		return (AbsoluteCoordinate - AbsolutePosition) / Scale;
+	}
 	FVector2D LocalToAbsolute(const FVector2D& LocalCoordinate) const { return LocalCoordinate * Scale + AbsolutePosition; }
 	FVector2D GetLocalPositionAtCoordinates(const FVector2D& NormalCoordinates) const { return NormalCoordinates * Size; }
 	FVector2D GetAbsolutePositionAtCoordinates(const FVector2D& NormalCoordinates) const

@@ -12,8 +12,20 @@ struct FMargin
 	float Bottom = 0.0f;
 
 	constexpr FMargin() = default;
-	constexpr FMargin(float UniformMargin) : Left(UniformMargin), Top(UniformMargin), Right(UniformMargin), Bottom(UniformMargin) {}
-	constexpr FMargin(float Horizontal, float Vertical) : Left(Horizontal), Top(Vertical), Right(Horizontal), Bottom(Vertical) {}
+	constexpr FMargin(float UniformMargin)
+		: Left(UniformMargin)
+		, Top(UniformMargin)
+		, Right(UniformMargin)
+		, Bottom(UniformMargin)
+	{
+	}
+	constexpr FMargin(float Horizontal, float Vertical)
+		: Left(Horizontal)
+		, Top(Vertical)
+		, Right(Horizontal)
+		, Bottom(Vertical)
+	{
+	}
 	constexpr FMargin(float InLeft, float InTop, float InRight, float InBottom)
 		: Left(InLeft)
 		, Top(InTop)

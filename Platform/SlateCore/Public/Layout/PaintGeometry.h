@@ -21,8 +21,7 @@ struct FPaintGeometry
 
 	/** @param bInHasRenderTransform  False promises that the render transform is the layout transform. */
 	FPaintGeometry(const FSlateLayoutTransform& InAccumulatedLayoutTransform,
-				   const FSlateRenderTransform& InAccumulatedRenderTransform, const FVector2D& InLocalSize,
-				   bool bInHasRenderTransform)
+		const FSlateRenderTransform& InAccumulatedRenderTransform, const FVector2D& InLocalSize, bool bInHasRenderTransform)
 		: DrawPosition(InAccumulatedLayoutTransform.GetTranslation())
 		, DrawScale(InAccumulatedLayoutTransform.GetScale())
 		, LocalSize(InLocalSize)

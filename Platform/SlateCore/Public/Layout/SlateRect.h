@@ -40,7 +40,7 @@ public:
 	FSlateRect IntersectionWith(const FSlateRect& Other) const
 	{
 		const FSlateRect Common(FMath::Max(Left, Other.Left), FMath::Max(Top, Other.Top), FMath::Min(Right, Other.Right),
-								FMath::Min(Bottom, Other.Bottom));
+			FMath::Min(Bottom, Other.Bottom));
 		return Common.Right < Common.Left || Common.Bottom < Common.Top ? FSlateRect() : Common;
 	}
 
@@ -48,7 +48,7 @@ public:
 	FSlateRect Expand(const FSlateRect& Other) const
 	{
 		return FSlateRect(FMath::Min(Left, Other.Left), FMath::Min(Top, Other.Top), FMath::Max(Right, Other.Right),
-						  FMath::Max(Bottom, Other.Bottom));
+			FMath::Max(Bottom, Other.Bottom));
 	}
 
 	FSlateRect InsetBy(const FMargin& Inset) const

@@ -18,7 +18,10 @@ struct EVisibility
 	/** A filter for arranging: every widget. */
 	static const EVisibility All;
 
-	constexpr EVisibility() : Value(VIS_Visible) {}
+	constexpr EVisibility()
+		: Value(VIS_Visible)
+	{
+	}
 
 	constexpr bool operator==(const EVisibility& Other) const { return Value == Other.Value; }
 	constexpr bool operator!=(const EVisibility& Other) const { return Value != Other.Value; }
@@ -65,10 +68,13 @@ private:
 		VIS_HitTestInvisible = VISPRIVATE_Visible,
 		VIS_SelfHitTestInvisible = VISPRIVATE_Visible | VISPRIVATE_ChildrenHitTestVisible,
 		VIS_All = VISPRIVATE_Visible | VISPRIVATE_Hidden | VISPRIVATE_Collapsed | VISPRIVATE_SelfHitTestVisible |
-				  VISPRIVATE_ChildrenHitTestVisible,
+			VISPRIVATE_ChildrenHitTestVisible,
 	};
 
-	constexpr EVisibility(Private InValue) : Value(InValue) {}
+	constexpr EVisibility(Private InValue)
+		: Value(InValue)
+	{
+	}
 
 	Private Value;
 };

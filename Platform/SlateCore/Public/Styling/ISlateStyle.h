@@ -52,5 +52,6 @@ protected:
 	virtual TOptional<FSlateColor> FindColor(const FName PropertyName) const = 0;
 	virtual TOptional<float> FindFloat(const FName PropertyName) const = 0;
 	virtual const FMargin* FindMargin(const FName PropertyName) const = 0;
-	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, bool bWarn) const = 0;
+	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(
+		const FName DesiredTypeName, const FName StyleName, bool bWarn) const = 0;
 };

@@ -81,8 +81,8 @@ struct FSlateBrushOutlineSettings
 	{
 	}
 	FSlateBrushOutlineSettings(float InUniformRadius, const FSlateColor& InColor, float InWidth)
-		: FSlateBrushOutlineSettings(FVector4(InUniformRadius, InUniformRadius, InUniformRadius, InUniformRadius), InColor,
-									 InWidth)
+		: FSlateBrushOutlineSettings(
+			  FVector4(InUniformRadius, InUniformRadius, InUniformRadius, InUniformRadius), InColor, InWidth)
 	{
 	}
 	FSlateBrushOutlineSettings(FVector4 InRadius, const FSlateColor& InColor, float InWidth)
@@ -96,7 +96,7 @@ struct FSlateBrushOutlineSettings
 	bool operator==(const FSlateBrushOutlineSettings& Other) const
 	{
 		return CornerRadii == Other.CornerRadii && Color == Other.Color && Width == Other.Width &&
-			   RoundingType == Other.RoundingType;
+			RoundingType == Other.RoundingType;
 	}
 
 	/** Top left, top right, bottom right, bottom left. */
@@ -140,15 +140,15 @@ struct SLATECORE_API FSlateBrush
 	bool operator==(const FSlateBrush& Other) const
 	{
 		return ImageSize == Other.ImageSize && Margin == Other.Margin && TintColor == Other.TintColor &&
-			   OutlineSettings == Other.OutlineSettings && DrawAs == Other.DrawAs && Tiling == Other.Tiling &&
-			   ImageType == Other.ImageType && ResourceName == Other.ResourceName;
+			OutlineSettings == Other.OutlineSettings && DrawAs == Other.DrawAs && Tiling == Other.Tiling &&
+			ImageType == Other.ImageType && ResourceName == Other.ResourceName;
 	}
 	bool operator!=(const FSlateBrush& Other) const { return !(*this == Other); }
 
 protected:
 	FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InResourceName, const FMargin& InMargin,
-				ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize,
-				const FSlateColor& InTint = FLinearColor::White)
+		ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize,
+		const FSlateColor& InTint = FLinearColor::White)
 		: ImageSize(InImageSize)
 		, Margin(InMargin)
 		, TintColor(InTint)

@@ -40,7 +40,8 @@ public:
 	}
 
 protected:
-	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, bool bWarn) const override;
+	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(
+		const FName DesiredTypeName, const FName StyleName, bool bWarn) const override;
 	virtual TOptional<FSlateFontInfo> FindFont(const FName PropertyName) const override;
 	virtual TOptional<FSlateColor> FindColor(const FName PropertyName) const override;
 	virtual TOptional<float> FindFloat(const FName PropertyName) const override;

@@ -7,7 +7,11 @@
 class FWidgetStyle
 {
 public:
-	FWidgetStyle() : ColorAndOpacityTint(FLinearColor::White), ForegroundColor(FLinearColor::White) {}
+	FWidgetStyle()
+		: ColorAndOpacityTint(FLinearColor::White)
+		, ForegroundColor(FLinearColor::White)
+	{
+	}
 
 	FWidgetStyle& BlendColorAndOpacityTint(const FLinearColor& InTint)
 	{

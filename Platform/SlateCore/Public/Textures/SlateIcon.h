@@ -8,7 +8,11 @@ struct FSlateBrush;
 struct SLATECORE_API FSlateIcon
 {
 	FSlateIcon() = default;
-	FSlateIcon(const FName& InStyleSetName, const FName& InStyleName) : StyleSetName(InStyleSetName), StyleName(InStyleName) {}
+	FSlateIcon(const FName& InStyleSetName, const FName& InStyleName)
+		: StyleSetName(InStyleSetName)
+		, StyleName(InStyleName)
+	{
+	}
 
 	bool IsSet() const { return !StyleName.IsNone(); }
 	const FName& GetStyleSetName() const { return StyleSetName; }

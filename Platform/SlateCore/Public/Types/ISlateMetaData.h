@@ -32,7 +32,10 @@ protected:
 		static const FName Type(TEXT(#TYPE)); \
 		return Type; \
 	} \
-	virtual bool IsOfTypeImpl(const FName& Type) const override { return GetTypeId() == Type || BASE::IsOfTypeImpl(Type); }
+	virtual bool IsOfTypeImpl(const FName& Type) const override \
+	{ \
+		return GetTypeId() == Type || BASE::IsOfTypeImpl(Type); \
+	}
 
 /** A name by which tools and tests find a widget. It has no visible effect. */
 class FTagMetaData : public ISlateMetaData
@@ -40,7 +43,10 @@ class FTagMetaData : public ISlateMetaData
 public:
 	SLATE_METADATA_TYPE(FTagMetaData, ISlateMetaData)
 
-	FTagMetaData(FName InTag) : Tag(InTag) {}
+	FTagMetaData(FName InTag)
+		: Tag(InTag)
+	{
+	}
 
 	FName Tag;
 };

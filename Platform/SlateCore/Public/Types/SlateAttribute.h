@@ -49,8 +49,14 @@ class TSlateAttribute
 {
 public:
 	TSlateAttribute() = default;
-	explicit TSlateAttribute(const ObjectType& InValue) : Value(InValue) {}
-	explicit TSlateAttribute(ObjectType&& InValue) : Value(MoveTemp(InValue)) {}
+	explicit TSlateAttribute(const ObjectType& InValue)
+		: Value(InValue)
+	{
+	}
+	explicit TSlateAttribute(ObjectType&& InValue)
+		: Value(MoveTemp(InValue))
+	{
+	}
 
 	const ObjectType& Get() const { return Value; }
 	bool IsBound() const { return Binding.IsValid(); }

@@ -26,40 +26,40 @@ enum EOrientation : int
 
 namespace ETextCommit
 {
-	/** What made a text field commit its text. */
-	enum Type : int
-	{
-		/** Losing focus or similar event caused implicit commit. */
-		Default,
-		/** The user pressed Enter. */
-		OnEnter,
-		/** The user moved the focus away, by mouse or Tab. */
-		OnUserMovedFocus,
-		/** The keyboard focus was taken away by code, or given up on commit. */
-		OnCleared,
-	};
+/** What made a text field commit its text. */
+enum Type : int
+{
+	/** Losing focus or similar event caused implicit commit. */
+	Default,
+	/** The user pressed Enter. */
+	OnEnter,
+	/** The user moved the focus away, by mouse or Tab. */
+	OnUserMovedFocus,
+	/** The keyboard focus was taken away by code, or given up on commit. */
+	OnCleared,
+};
 }
 
 namespace ESelectInfo
 {
-	/** What made a selection change. */
-	enum Type : int
-	{
-		OnKeyPress,
-		OnNavigation,
-		OnMouseClick,
-		Direct,
-	};
+/** What made a selection change. */
+enum Type : int
+{
+	OnKeyPress,
+	OnNavigation,
+	OnMouseClick,
+	Direct,
+};
 }
 
 namespace ETextJustify
 {
-	enum Type : int
-	{
-		Left,
-		Center,
-		Right,
-	};
+enum Type : int
+{
+	Left,
+	Center,
+	Right,
+};
 }
 
 /** How text breaks where a line is too long. */
@@ -73,14 +73,14 @@ enum class ETextWrappingPolicy : uint8
 
 namespace EProgressBarFillType
 {
-	enum Type : int
-	{
-		LeftToRight,
-		RightToLeft,
-		FillFromCenter,
-		TopToBottom,
-		BottomToTop,
-	};
+enum Type : int
+{
+	LeftToRight,
+	RightToLeft,
+	FillFromCenter,
+	TopToBottom,
+	BottomToTop,
+};
 }
 
 enum class EUINavigation : uint8

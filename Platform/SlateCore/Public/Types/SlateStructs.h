@@ -6,7 +6,10 @@
 struct FOptionalSize
 {
 	constexpr FOptionalSize() = default;
-	constexpr FOptionalSize(float InSize) : Size(InSize) {}
+	constexpr FOptionalSize(float InSize)
+		: Size(InSize)
+	{
+	}
 
 	constexpr bool IsSet() const { return Size != Unspecified; }
 	constexpr float Get() const { return Size; }
@@ -35,15 +38,25 @@ struct FSizeParam
 	bool operator==(const FSizeParam& Other) const { return SizeRule == Other.SizeRule && Value == Other.Value; }
 
 protected:
-	constexpr FSizeParam(ESizeRule InRule, float InValue) : SizeRule(InRule), Value(InValue) {}
+	constexpr FSizeParam(ESizeRule InRule, float InValue)
+		: SizeRule(InRule)
+		, Value(InValue)
+	{
+	}
 };
 
 struct FStretch : FSizeParam
 {
-	constexpr FStretch(float Coefficient = 1.0f) : FSizeParam(SizeRule_Stretch, Coefficient) {}
+	constexpr FStretch(float Coefficient = 1.0f)
+		: FSizeParam(SizeRule_Stretch, Coefficient)
+	{
+	}
 };
 
 struct FAuto : FSizeParam
 {
-	constexpr FAuto() : FSizeParam(SizeRule_Auto, 0.0f) {}
+	constexpr FAuto()
+		: FSizeParam(SizeRule_Auto, 0.0f)
+	{
+	}
 };

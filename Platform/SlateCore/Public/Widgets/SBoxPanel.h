@@ -41,7 +41,11 @@ public:
 	virtual FChildren* GetChildren() override { return &Children; }
 
 protected:
-	explicit SBoxPanel(EOrientation InOrientation) : Children(*this), Orientation(InOrientation) {}
+	explicit SBoxPanel(EOrientation InOrientation)
+		: Children(*this)
+		, Orientation(InOrientation)
+	{
+	}
 
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
@@ -77,10 +81,13 @@ public:
 	using FScopedWidgetSlotArguments = TScopedSlotArguments<FBoxPanelSlot, FSlot::FSlotArguments>;
 
 	SLATE_BEGIN_ARGS(SHorizontalBox) {}
-		SLATE_SLOT_ARGUMENT(SHorizontalBox::FSlot, Slots)
+	SLATE_SLOT_ARGUMENT(SHorizontalBox::FSlot, Slots)
 	SLATE_END_ARGS()
 
-	SHorizontalBox() : SBoxPanel(Orient_Horizontal) {}
+	SHorizontalBox()
+		: SBoxPanel(Orient_Horizontal)
+	{
+	}
 	void Construct(const FArguments& InArgs);
 
 	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(); }
@@ -113,10 +120,13 @@ public:
 	using FScopedWidgetSlotArguments = TScopedSlotArguments<FBoxPanelSlot, FSlot::FSlotArguments>;
 
 	SLATE_BEGIN_ARGS(SVerticalBox) {}
-		SLATE_SLOT_ARGUMENT(SVerticalBox::FSlot, Slots)
+	SLATE_SLOT_ARGUMENT(SVerticalBox::FSlot, Slots)
 	SLATE_END_ARGS()
 
-	SVerticalBox() : SBoxPanel(Orient_Vertical) {}
+	SVerticalBox()
+		: SBoxPanel(Orient_Vertical)
+	{
+	}
 	void Construct(const FArguments& InArgs);
 
 	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(); }

@@ -45,10 +45,16 @@ class SLATECORE_API SCompoundWidget : public SWidget
 {
 public:
 	/** Tints the widget with all it holds. */
-	void SetColorAndOpacity(const TAttribute<FLinearColor>& InColorAndOpacity) { SetAttribute(ColorAndOpacityAttribute, InColorAndOpacity); }
+	void SetColorAndOpacity(const TAttribute<FLinearColor>& InColorAndOpacity)
+	{
+		SetAttribute(ColorAndOpacityAttribute, InColorAndOpacity);
+	}
 
 	/** The foreground colour for all within that says it uses the foreground. */
-	void SetForegroundColor(const TAttribute<FSlateColor>& InForegroundColor) { SetAttribute(ForegroundColorAttribute, InForegroundColor); }
+	void SetForegroundColor(const TAttribute<FSlateColor>& InForegroundColor)
+	{
+		SetAttribute(ForegroundColorAttribute, InForegroundColor);
+	}
 
 	virtual FSlateColor GetForegroundColor() const { return ForegroundColorAttribute.Get(); }
 	const FLinearColor& GetColorAndOpacity() const { return ColorAndOpacityAttribute.Get(); }

@@ -16,10 +16,13 @@ public:
 	using FScopedWidgetSlotArguments = TScopedSlotArguments<FOverlaySlot, FOverlaySlot::FSlotArguments>;
 
 	SLATE_BEGIN_ARGS(SOverlay) {}
-		SLATE_SLOT_ARGUMENT(SOverlay::FOverlaySlot, Slots)
+	SLATE_SLOT_ARGUMENT(SOverlay::FOverlaySlot, Slots)
 	SLATE_END_ARGS()
 
-	SOverlay() : Children(*this) {}
+	SOverlay()
+		: Children(*this)
+	{
+	}
 	void Construct(const FArguments& InArgs);
 
 	static FOverlaySlot::FSlotArguments Slot() { return FOverlaySlot::FSlotArguments(); }

@@ -32,15 +32,15 @@ public:
 		, _SupportsMinimize(true)
 	{
 	}
-		SLATE_ATTRIBUTE(FText, Title)
-		/** Slate units. */
-		SLATE_ARGUMENT(FVector2D, ClientSize)
-		/** Desktop pixels; used when AutoCenter is None. */
-		SLATE_ARGUMENT(FVector2D, ScreenPosition)
-		SLATE_ARGUMENT(EAutoCenter, AutoCenter)
-		SLATE_ARGUMENT(bool, SupportsMaximize)
-		SLATE_ARGUMENT(bool, SupportsMinimize)
-		SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_ATTRIBUTE(FText, Title)
+	/** Slate units. */
+	SLATE_ARGUMENT(FVector2D, ClientSize)
+	/** Desktop pixels; used when AutoCenter is None. */
+	SLATE_ARGUMENT(FVector2D, ScreenPosition)
+	SLATE_ARGUMENT(EAutoCenter, AutoCenter)
+	SLATE_ARGUMENT(bool, SupportsMaximize)
+	SLATE_ARGUMENT(bool, SupportsMinimize)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
 	SWindow();

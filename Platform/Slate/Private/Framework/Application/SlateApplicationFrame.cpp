@@ -80,7 +80,8 @@ bool FSlateApplication::DrawWindows(const TArray<TSharedRef<SWindow>>& ToDraw)
 	{
 		if (Window->IsShown() && !Window->GetDamage().IsEmpty())
 		{
-			Window->PaintWindow(CurrentTime, static_cast<float>(FApp::GetDeltaTime()), Buffer.AddWindowElementList(&Window.Get()));
+			Window->PaintWindow(
+				CurrentTime, static_cast<float>(FApp::GetDeltaTime()), Buffer.AddWindowElementList(&Window.Get()));
 			Window->ClearDamage();
 		}
 	}

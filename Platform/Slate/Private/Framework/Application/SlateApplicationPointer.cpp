@@ -184,9 +184,8 @@ bool FSlateApplication::ProcessMouseButtonDown(const FPointerEvent& Event, bool 
 		}
 	}
 
-	const FReply Reply = bDoubleClick
-		? RoutePointer(Path, Event, TEXT("double click"), &SWidget::OnMouseButtonDoubleClick)
-		: RoutePointer(Path, Event, TEXT("mouse button down"), &SWidget::OnMouseButtonDown);
+	const FReply Reply = bDoubleClick ? RoutePointer(Path, Event, TEXT("double click"), &SWidget::OnMouseButtonDoubleClick)
+									  : RoutePointer(Path, Event, TEXT("mouse button down"), &SWidget::OnMouseButtonDown);
 
 	if (!Reply.ShouldSetUserFocus() && FocusedWidget.Pin() == FocusedBefore)
 	{
@@ -257,7 +256,10 @@ bool FSlateApplication::ProcessMouseMove(const FPointerEvent& Event)
 void FSlateApplication::UpdateHover(const FWidgetPath& NewPath, const FPointerEvent& Event)
 {
 	const TSharedPtr<SWidget> Captor = MouseCaptor.Pin();
-	const auto MayHover = [&](const SWidget& Widget) { return !Captor.IsValid() || &Widget == Captor.Get(); };
+	const auto MayHover = [&](const SWidget& Widget)
+	{
+		return !Captor.IsValid() || &Widget == Captor.Get();
+	};
 
 	const FWeakWidgetPath OldPath = HoverPath;
 	HoverPath = FWeakWidgetPath();

@@ -11,11 +11,28 @@
 void SDockingTabStack::Construct(const FArguments& InArgs)
 {
 	const FDockTabStyle& Style = FAppStyle::Get().GetWidgetStyle<FDockTabStyle>("Docking.Tab");
-	ChildSlot[SNew(SVerticalBox) +
-		SVerticalBox::Slot().AutoHeight()[SNew(SBorder)
-											  .BorderImage(&Style.TabWellBrush)
-											  .Padding(FMargin(4.0f, 4.0f, 4.0f, 0.0f))[SAssignNew(Well, SHorizontalBox)]] +
-		SVerticalBox::Slot()[SAssignNew(ContentArea, SBorder).BorderImage(&Style.ContentAreaBrush).Padding(FMargin(0.0f))]];
+	// clang-format off
+	ChildSlot
+	[
+		SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SNew(SBorder)
+			.BorderImage(&Style.TabWellBrush)
+			.Padding(FMargin(4.0f, 4.0f, 4.0f, 0.0f))
+			[
+				SAssignNew(Well, SHorizontalBox)
+			]
+		]
+		+ SVerticalBox::Slot()
+		[
+			SAssignNew(ContentArea, SBorder)
+			.BorderImage(&Style.ContentAreaBrush)
+			.Padding(FMargin(0.0f))
+		]
+	];
+	// clang-format on
 	ContentArea->SetClipping(EWidgetClipping::ClipToBounds);
 }
 

@@ -50,9 +50,8 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 		return nullptr;
 	}
 	const TSharedPtr<SDockingTabStack> Primary = PrimaryStack.Pin();
-	const TSharedRef<SDockingTabStack> Stack = Primary.IsValid()
-		? Primary.ToSharedRef()
-		: MakeStackInNewWindow(DefaultWindowSize, FVector2D(-1.0, -1.0), false);
+	const TSharedRef<SDockingTabStack> Stack =
+		Primary.IsValid() ? Primary.ToSharedRef() : MakeStackInNewWindow(DefaultWindowSize, FVector2D(-1.0, -1.0), false);
 	return SpawnTab(TabId, Stack);
 }
 
@@ -141,7 +140,8 @@ void FTabManager::OpenAreaWindow(const FArea& Area)
 		TSharedPtr<SDockingTabStack> Stack;
 		for (const FStack::FTab& Tab : StackLayout->Tabs)
 		{
-			if (Tab.State != ETabState::OpenedTab || FindExistingLiveTab(Tab.TabId).IsValid() || !HasTabSpawner(Tab.TabId.TabType))
+			if (Tab.State != ETabState::OpenedTab || FindExistingLiveTab(Tab.TabId).IsValid() ||
+				!HasTabSpawner(Tab.TabId.TabType))
 			{
 				continue;
 			}

@@ -29,19 +29,42 @@ void SDockTab::Construct(const FArguments& InArgs)
 	OnTabClosed = InArgs._OnTabClosed;
 	CanCloseTabHandler = InArgs._OnCanCloseTab;
 
-	SBorder::Construct(SBorder::FArguments().Padding(Style->TabPadding)
-		[SNew(SHorizontalBox) +
-			SHorizontalBox::Slot().AutoWidth().VAlign(VAlign_Center)
-				[SAssignNew(IconImage, SImage).Visibility(EVisibility::Collapsed)] +
-			SHorizontalBox::Slot().AutoWidth().VAlign(VAlign_Center)
-				[SAssignNew(LabelText, STextBlock).TextStyle(&Style->TabTextStyle)] +
-			SHorizontalBox::Slot().AutoWidth().VAlign(VAlign_Center).Padding(FMargin(8.0f, 0.0f, -6.0f, 0.0f))
-				[SNew(SButton)
-						.ButtonStyle(&Style->CloseButtonStyle)
-						.ContentPadding(FMargin(0.0f))
-						.IsFocusable(false)
-						.OnClicked(this, &SDockTab::OnCloseButtonClicked)
-							[SNew(SImage).Image(FAppStyle::Get().GetBrush("Docking.Tab.CloseIcon"))]]]);
+	// clang-format off
+	SBorder::Construct(SBorder::FArguments()
+		.Padding(Style->TabPadding)
+		[
+			SNew(SHorizontalBox)
+			+ SHorizontalBox::Slot()
+			.AutoWidth()
+			.VAlign(VAlign_Center)
+			[
+				SAssignNew(IconImage, SImage)
+				.Visibility(EVisibility::Collapsed)
+			]
+			+ SHorizontalBox::Slot()
+			.AutoWidth()
+			.VAlign(VAlign_Center)
+			[
+				SAssignNew(LabelText, STextBlock)
+				.TextStyle(&Style->TabTextStyle)
+			]
+			+ SHorizontalBox::Slot()
+			.AutoWidth()
+			.VAlign(VAlign_Center)
+			.Padding(FMargin(8.0f, 0.0f, -6.0f, 0.0f))
+			[
+				SNew(SButton)
+				.ButtonStyle(&Style->CloseButtonStyle)
+				.ContentPadding(FMargin(0.0f))
+				.IsFocusable(false)
+				.OnClicked(this, &SDockTab::OnCloseButtonClicked)
+				[
+					SNew(SImage)
+					.Image(FAppStyle::Get().GetBrush("Docking.Tab.CloseIcon"))
+				]
+			]
+		]);
+	// clang-format on
 	if (InArgs._Label.IsSet())
 	{
 		SetLabel(InArgs._Label);
@@ -150,12 +173,14 @@ void SDockTab::FlashTab()
 {
 	if (!bFlashing)
 	{
-		RegisterActiveTimer(0.0f, FWidgetActiveTimerDelegate::CreateLambda([this](double CurrentTime, float)
-		{
-			Invalidate(EInvalidateWidgetReason::Paint);
-			bFlashing = CurrentTime < FlashEndTime;
-			return bFlashing ? EActiveTimerReturnType::Continue : EActiveTimerReturnType::Stop;
-		}));
+		RegisterActiveTimer(0.0f,
+			FWidgetActiveTimerDelegate::CreateLambda(
+				[this](double CurrentTime, float)
+				{
+					Invalidate(EInvalidateWidgetReason::Paint);
+					bFlashing = CurrentTime < FlashEndTime;
+					return bFlashing ? EActiveTimerReturnType::Continue : EActiveTimerReturnType::Stop;
+				}));
 	}
 	bFlashing = true;
 	FlashEndTime = FSlateApplication::Get().GetCurrentTime() + FlashDuration;
@@ -214,23 +239,24 @@ const FSlateBrush* SDockTab::GetBorder() const
 int32 SDockTab::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
-	int32 HighestLayer = SBorder::OnPaint(
-		Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
+	int32 HighestLayer =
+		SBorder::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
 	if (IsForeground())
 	{
 		const FVector2D StripeSize(AllottedGeometry.GetLocalSize().X, StripeHeight);
 		const FLinearColor Tint = IsActive() || bFlashing ? Style->ActiveStripeBrush.GetTint(InWidgetStyle)
 														  : Style->NormalForegroundColor.GetColor(InWidgetStyle) * 0.5f;
-		FSlateDrawElement::MakeBox(OutDrawElements, ++HighestLayer, AllottedGeometry.ToPaintGeometry(FVector2D::ZeroVector, StripeSize),
-			&Style->ActiveStripeBrush, ESlateDrawEffect::None, Tint);
+		FSlateDrawElement::MakeBox(OutDrawElements, ++HighestLayer,
+			AllottedGeometry.ToPaintGeometry(FVector2D::ZeroVector, StripeSize), &Style->ActiveStripeBrush,
+			ESlateDrawEffect::None, Tint);
 	}
 	if (bFlashing)
 	{
 		const double Left = FMath::Clamp((FlashEndTime - FSlateApplication::Get().GetCurrentTime()) / FlashDuration, 0.0, 1.0);
 		FLinearColor Tint = Style->FlashColor.GetColor(InWidgetStyle);
 		Tint.A *= 0.5f * static_cast<float>(Left);
-		FSlateDrawElement::MakeBox(
-			OutDrawElements, ++HighestLayer, AllottedGeometry.ToPaintGeometry(), &Style->ActiveStripeBrush, ESlateDrawEffect::None, Tint);
+		FSlateDrawElement::MakeBox(OutDrawElements, ++HighestLayer, AllottedGeometry.ToPaintGeometry(), &Style->ActiveStripeBrush,
+			ESlateDrawEffect::None, Tint);
 	}
 	return HighestLayer;
 }

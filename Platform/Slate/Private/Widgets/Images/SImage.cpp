@@ -4,7 +4,10 @@
 #include "Styling/StyleDefaults.h"
 #include "Styling/WidgetStyle.h"
 
-SImage::SImage() : Image(FStyleDefaults::GetDefaultBrush()) {}
+SImage::SImage()
+	: Image(FStyleDefaults::GetDefaultBrush())
+{
+}
 
 void SImage::Construct(const FArguments& InArgs)
 {
@@ -25,7 +28,8 @@ int32 SImage::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry,
 	{
 		FSlateDrawElement::MakeBox(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), Brush,
 			ShouldBeEnabled(bParentEnabled) ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect,
-			Brush->GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint() * ColorAndOpacity.Get().GetColor(InWidgetStyle));
+			Brush->GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint() *
+				ColorAndOpacity.Get().GetColor(InWidgetStyle));
 	}
 	return LayerId;
 }

@@ -62,13 +62,27 @@ void SCheckBox::Construct(const FArguments& InArgs)
 	SetAttribute(ForegroundOverride, InArgs._ForegroundColor);
 
 	SHorizontalBox::FSlot* Slot = nullptr;
-	ChildSlot[SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth().VAlign(VAlign_Center).HAlign(HAlign_Center)
-		[SNew(SCheckBoxMark, this)] +
-		SHorizontalBox::Slot()
-			.HAlign(InArgs._HAlign)
-			.VAlign(VAlign_Center)
-			.Padding(InArgs._Padding.Get(Style->Padding))
-			.Expose(Slot)[InArgs._Content]];
+	// clang-format off
+	ChildSlot
+	[
+		SNew(SHorizontalBox)
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		.HAlign(HAlign_Center)
+		.VAlign(VAlign_Center)
+		[
+			SNew(SCheckBoxMark, this)
+		]
+		+ SHorizontalBox::Slot()
+		.HAlign(InArgs._HAlign)
+		.VAlign(VAlign_Center)
+		.Padding(InArgs._Padding.Get(Style->Padding))
+		.Expose(Slot)
+		[
+			InArgs._Content
+		]
+	];
+	// clang-format on
 	ContentSlot = Slot;
 }
 

@@ -4,7 +4,10 @@
 #include "Styling/AppStyle.h"
 #include "Styling/WidgetStyle.h"
 
-SBorder::SBorder() : BorderImage(FAppStyle::Get().GetBrush("Border")) {}
+SBorder::SBorder()
+	: BorderImage(FAppStyle::Get().GetBrush("Border"))
+{
+}
 
 void SBorder::Construct(const FArguments& InArgs)
 {

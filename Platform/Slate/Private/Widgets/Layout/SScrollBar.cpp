@@ -85,11 +85,12 @@ int32 SScrollBar::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeome
 
 	const FThumb Thumb = GetThumb(AllottedGeometry);
 	const float Breadth = Style->Thickness - 2.0f * ThumbInset;
-	const FVector2D Position = Orientation == Orient_Vertical ? FVector2D(ThumbInset, Thumb.Start) : FVector2D(Thumb.Start, ThumbInset);
+	const FVector2D Position =
+		Orientation == Orient_Vertical ? FVector2D(ThumbInset, Thumb.Start) : FVector2D(Thumb.Start, ThumbInset);
 	const FVector2D Size = Orientation == Orient_Vertical ? FVector2D(Breadth, Thumb.Length) : FVector2D(Thumb.Length, Breadth);
 	const FSlateBrush& Brush = bIsDragging ? Style->DraggedThumbImage
-		: IsHovered()						? Style->HoveredThumbImage
-											: Style->NormalThumbImage;
+		: IsHovered()					   ? Style->HoveredThumbImage
+										   : Style->NormalThumbImage;
 	FSlateDrawElement::MakeBox(OutDrawElements, LayerId + 1, AllottedGeometry.ToPaintGeometry(Position, Size), &Brush,
 		ESlateDrawEffect::None, Brush.GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint());
 	return LayerId + 1;

@@ -26,20 +26,28 @@ void SScrollBox::Construct(const FArguments& InArgs)
 
 void SScrollBox::BuildLayout()
 {
+	// clang-format off
 	SAssignNew(ScrollBar, SScrollBar)
-		.Orientation(Orientation)
-		.AlwaysShowScrollbar(bScrollBarAlwaysVisible)
-		.OnUserScrolled(this, &SScrollBox::OnScrollBarMoved);
+	.Orientation(Orientation)
+	.AlwaysShowScrollbar(bScrollBarAlwaysVisible)
+	.OnUserScrolled(this, &SScrollBox::OnScrollBarMoved);
+	// clang-format on
 	Panel->SetScrollBar(ScrollBar);
-	const TSharedRef<SWidget> Content = Panel.ToSharedRef();
-	const TSharedRef<SWidget> Bar = ScrollBar.ToSharedRef();
+
+	// The bar stands beside a vertical content and below a horizontal one.
 	if (Orientation == Orient_Vertical)
 	{
-		ChildSlot[SNew(SHorizontalBox) + SHorizontalBox::Slot()[Content] + SHorizontalBox::Slot().AutoWidth()[Bar]];
+		const TSharedRef<SHorizontalBox> Box = SNew(SHorizontalBox);
+		Box->AddSlot()[Panel.ToSharedRef()];
+		Box->AddSlot().AutoWidth()[ScrollBar.ToSharedRef()];
+		ChildSlot[Box];
 	}
 	else
 	{
-		ChildSlot[SNew(SVerticalBox) + SVerticalBox::Slot()[Content] + SVerticalBox::Slot().AutoHeight()[Bar]];
+		const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
+		Box->AddSlot()[Panel.ToSharedRef()];
+		Box->AddSlot().AutoHeight()[ScrollBar.ToSharedRef()];
+		ChildSlot[Box];
 	}
 }
 
@@ -136,14 +144,16 @@ void SScrollBox::ScrollDescendantIntoView(const TSharedPtr<SWidget>& WidgetToScr
 		return;
 	}
 
-	const auto Along = [this](const FVector2D& Vector) { return Orientation == Orient_Vertical ? Vector.Y : Vector.X; };
+	const auto Along = [this](const FVector2D& Vector)
+	{
+		return Orientation == Orient_Vertical ? Vector.Y : Vector.X;
+	};
 	float Start = 0.0f;
 	for (int32 Index = 0; Index < Panel->Children.Num(); ++Index)
 	{
 		const FSlot& Slot = Panel->Children[Index];
 		const bool bCollapsed = Slot.GetWidget()->GetVisibility() == EVisibility::Collapsed;
-		const float Length =
-			bCollapsed ? 0.0f : Along(Slot.GetWidget()->GetDesiredSize() + Slot.GetPadding().GetDesiredSize());
+		const float Length = bCollapsed ? 0.0f : Along(Slot.GetWidget()->GetDesiredSize() + Slot.GetPadding().GetDesiredSize());
 		if (&Slot.GetWidget().Get() == Step)
 		{
 			const float LastOffset = Start;

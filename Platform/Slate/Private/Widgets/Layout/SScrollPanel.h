@@ -10,7 +10,10 @@ public:
 	SLATE_BEGIN_ARGS(SScrollPanel) {}
 	SLATE_END_ARGS()
 
-	SScrollPanel() : Children(*this) {}
+	SScrollPanel()
+		: Children(*this)
+	{
+	}
 	void Construct(const FArguments& InArgs, EOrientation InOrientation);
 
 	virtual FChildren* GetChildren() override { return &Children; }

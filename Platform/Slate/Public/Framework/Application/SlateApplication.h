@@ -107,7 +107,8 @@ public:
 	/** The widgets under a place of the desktop, down to the deepest that can be hit and is enabled. */
 	FWidgetPath LocateWindowUnderMouse(const FVector2D& ScreenSpaceMouseCoordinate) const;
 
-	bool SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
+	bool SetKeyboardFocus(
+		const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 	void ClearKeyboardFocus(EFocusCause ReasonFocusIsChanging = EFocusCause::Cleared);
 	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const override { return FocusedWidget.Pin(); }
 	virtual bool HasFocusedDescendants(const TSharedRef<const SWidget>& Widget) const override;
@@ -149,7 +150,8 @@ public:
 		const TSharedRef<FGenericWindow>& Window, const int32 Width, const int32 Height, bool bWasMinimized = false) override;
 	virtual void OnOSPaint(const TSharedRef<FGenericWindow>& Window) override;
 	virtual void OnMovedWindow(const TSharedRef<FGenericWindow>& Window, const int32 X, const int32 Y) override;
-	virtual bool OnWindowActivationChanged(const TSharedRef<FGenericWindow>& Window, const EWindowActivation ActivationType) override;
+	virtual bool OnWindowActivationChanged(
+		const TSharedRef<FGenericWindow>& Window, const EWindowActivation ActivationType) override;
 	virtual void OnWindowClose(const TSharedRef<FGenericWindow>& Window) override;
 
 private:

@@ -6,8 +6,15 @@
 struct FTabId
 {
 	FTabId() = default;
-	FTabId(const FName InTabType) : TabType(InTabType) {}
-	FTabId(const FName InTabType, const int32 InInstanceId) : TabType(InTabType), InstanceId(InInstanceId) {}
+	FTabId(const FName InTabType)
+		: TabType(InTabType)
+	{
+	}
+	FTabId(const FName InTabType, const int32 InInstanceId)
+		: TabType(InTabType)
+		, InstanceId(InInstanceId)
+	{
+	}
 
 	bool operator==(const FTabId& Other) const { return TabType == Other.TabType && InstanceId == Other.InstanceId; }
 

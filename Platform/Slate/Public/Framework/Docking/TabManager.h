@@ -61,7 +61,11 @@ DECLARE_DELEGATE_RetVal_OneParam(TSharedRef<SDockTab>, FOnSpawnTab, const FSpawn
 /** A registered kind of tab: how it is made and what it is called. */
 struct SLATE_API FTabSpawnerEntry
 {
-	FTabSpawnerEntry(const FName InTabType, const FOnSpawnTab& InSpawnTabMethod) : TabType(InTabType), OnSpawnTab(InSpawnTabMethod) {}
+	FTabSpawnerEntry(const FName InTabType, const FOnSpawnTab& InSpawnTabMethod)
+		: TabType(InTabType)
+		, OnSpawnTab(InSpawnTabMethod)
+	{
+	}
 
 	FTabSpawnerEntry& SetDisplayName(const TAttribute<FText>& InDisplayName)
 	{
@@ -178,8 +182,7 @@ public:
 	 * @return The content of the primary area, if the layout has one.
 	 */
 	TSharedPtr<SWidget> RestoreFrom(const TSharedRef<FLayout>& Layout, const TSharedPtr<SWindow>& ParentWindow,
-		const bool bEmbedTitleAreaContent = false,
-		const EOutputCanBeNullptr OutputCanBeNullptr = EOutputCanBeNullptr::Never);
+		const bool bEmbedTitleAreaContent = false, const EOutputCanBeNullptr OutputCanBeNullptr = EOutputCanBeNullptr::Never);
 
 	bool HasTabSpawner(FName TabId) const { return Spawners.Contains(TabId); }
 

@@ -31,13 +31,16 @@ DECLARE_DELEGATE_RetVal(bool, FCanCloseTab);
 class SLATE_API SDockTab : public SBorder
 {
 public:
-	SLATE_BEGIN_ARGS(SDockTab) : _TabRole(ETabRole::PanelTab) {}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_ARGUMENT(ETabRole, TabRole)
-		/** Without a label the tab shows the display name of its spawner. */
-		SLATE_ATTRIBUTE(FText, Label)
-		SLATE_EVENT(FOnTabClosedCallback, OnTabClosed)
-		SLATE_EVENT(FCanCloseTab, OnCanCloseTab)
+	SLATE_BEGIN_ARGS(SDockTab)
+		: _TabRole(ETabRole::PanelTab)
+	{
+	}
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_ARGUMENT(ETabRole, TabRole)
+	/** Without a label the tab shows the display name of its spawner. */
+	SLATE_ATTRIBUTE(FText, Label)
+	SLATE_EVENT(FOnTabClosedCallback, OnTabClosed)
+	SLATE_EVENT(FCanCloseTab, OnCanCloseTab)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

@@ -8,8 +8,8 @@ class SLATE_API SImage : public SLeafWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SImage) {}
-		SLATE_ATTRIBUTE(const FSlateBrush*, Image)
-		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
+	SLATE_ATTRIBUTE(const FSlateBrush*, Image)
+	SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
 	SLATE_END_ARGS()
 
 	SImage();

@@ -13,14 +13,14 @@ public:
 		, _Padding(FMargin(2.0f))
 	{
 	}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
-		SLATE_ARGUMENT(EVerticalAlignment, VAlign)
-		SLATE_ARGUMENT(FMargin, Padding)
-		SLATE_ATTRIBUTE(const FSlateBrush*, BorderImage)
-		SLATE_ATTRIBUTE(FLinearColor, ColorAndOpacity)
-		SLATE_ATTRIBUTE(FSlateColor, BorderBackgroundColor)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
+	SLATE_ARGUMENT(EVerticalAlignment, VAlign)
+	SLATE_ARGUMENT(FMargin, Padding)
+	SLATE_ATTRIBUTE(const FSlateBrush*, BorderImage)
+	SLATE_ATTRIBUTE(FLinearColor, ColorAndOpacity)
+	SLATE_ATTRIBUTE(FSlateColor, BorderBackgroundColor)
+	SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
 	SLATE_END_ARGS()
 
 	SBorder();

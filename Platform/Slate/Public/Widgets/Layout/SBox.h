@@ -12,16 +12,16 @@ public:
 		, _VAlign(VAlign_Fill)
 	{
 	}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
-		SLATE_ARGUMENT(EVerticalAlignment, VAlign)
-		SLATE_ARGUMENT(FMargin, Padding)
-		SLATE_ATTRIBUTE(FOptionalSize, WidthOverride)
-		SLATE_ATTRIBUTE(FOptionalSize, HeightOverride)
-		SLATE_ATTRIBUTE(FOptionalSize, MinDesiredWidth)
-		SLATE_ATTRIBUTE(FOptionalSize, MinDesiredHeight)
-		SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredWidth)
-		SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredHeight)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
+	SLATE_ARGUMENT(EVerticalAlignment, VAlign)
+	SLATE_ARGUMENT(FMargin, Padding)
+	SLATE_ATTRIBUTE(FOptionalSize, WidthOverride)
+	SLATE_ATTRIBUTE(FOptionalSize, HeightOverride)
+	SLATE_ATTRIBUTE(FOptionalSize, MinDesiredWidth)
+	SLATE_ATTRIBUTE(FOptionalSize, MinDesiredHeight)
+	SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredWidth)
+	SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredHeight)
 	SLATE_END_ARGS()
 
 	SBox();

@@ -16,10 +16,10 @@ public:
 		, _Orientation(Orient_Vertical)
 	{
 	}
-		SLATE_STYLE_ARGUMENT(FScrollBarStyle, Style)
-		SLATE_ARGUMENT(bool, AlwaysShowScrollbar)
-		SLATE_ARGUMENT(EOrientation, Orientation)
-		SLATE_EVENT(FOnUserScrolled, OnUserScrolled)
+	SLATE_STYLE_ARGUMENT(FScrollBarStyle, Style)
+	SLATE_ARGUMENT(bool, AlwaysShowScrollbar)
+	SLATE_ARGUMENT(EOrientation, Orientation)
+	SLATE_EVENT(FOnUserScrolled, OnUserScrolled)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

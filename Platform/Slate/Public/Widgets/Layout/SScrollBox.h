@@ -28,9 +28,9 @@ public:
 		, _ScrollBarAlwaysVisible(false)
 	{
 	}
-		SLATE_SLOT_ARGUMENT(SScrollBox::FSlot, Slots)
-		SLATE_ARGUMENT(EOrientation, Orientation)
-		SLATE_ARGUMENT(bool, ScrollBarAlwaysVisible)
+	SLATE_SLOT_ARGUMENT(SScrollBox::FSlot, Slots)
+	SLATE_ARGUMENT(EOrientation, Orientation)
+	SLATE_ARGUMENT(bool, ScrollBarAlwaysVisible)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
@@ -60,8 +60,8 @@ public:
 	void SetOrientation(EOrientation InOrientation);
 
 	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
-	virtual void OnFocusChanging(const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath,
-		const FFocusEvent& InFocusEvent) override;
+	virtual void OnFocusChanging(
+		const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent) override;
 
 private:
 	void BuildLayout();
