@@ -12,6 +12,7 @@
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/CoreDelegates.h"
+#include "Misc/CoreDelegates.h"
 #include "Misc/OutputDeviceFile.h"
 #include "Misc/OutputDeviceStdOutput.h"
 #include "Misc/Paths.h"
@@ -95,6 +96,7 @@ void FEngineLoop::Init()
 	}
 	FCoreDelegates::OnPostEngineInit.Broadcast();
 	UE_LOG(LogLaunch, Log, TEXT("Project %s is open."), *FPaths::GetProjectFilePath());
+	FCoreDelegates::OnPostEngineInit.Broadcast();
 }
 
 void FEngineLoop::OpenMainWindow()
@@ -189,7 +191,9 @@ void FEngineLoop::WaitForWork()
 		return;
 	}
 	const double Seconds = FMath::Min(Slate.GetSecondsToNextCall(), FTSTicker::GetCoreTicker().GetSecondsToNextCall());
+	FCoreDelegates::OnMainLoopSleep.Broadcast();
 	Slate.GetPlatformApplication()->WaitForMessages(FMath::Clamp(Seconds, 0.0, LongestSleep));
+	FCoreDelegates::OnMainLoopWake.Broadcast();
 }
 
 void FEngineLoop::Exit()
@@ -198,9 +202,11 @@ void FEngineLoop::Exit()
 	{
 		Tab->RequestCloseTab();
 	}
-	FSlateApplication::Get().PumpMessages();
+	FSlateApplication::Get().CloseAllWindowsImmediately();
 	MainWindow.Reset();
 
+	FCoreDelegates::OnEnginePreExit.Broadcast();
+	GConfig->Flush(false);
 	FModuleManager::Get().UnloadModulesAtShutdown();
 	FSlateApplication::Shutdown();
 	UE_LOG(LogLaunch, Log, TEXT("The editor has ended."));

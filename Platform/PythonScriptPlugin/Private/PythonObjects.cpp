@@ -208,7 +208,7 @@ static PyObject* WrapperToRepr(PyObject* Self)
 	{
 		return PyUnicode_FromFormat("<Destroyed object of type '%s'>", Py_TYPE(Self)->tp_name);
 	}
-	const FString Text = FString::Printf(TEXT("<Object '%s' (0x%p) Class '%s'>"), *Object->GetPathName(),
+	const FString Text = FString::Printf(TEXT("<Object '%s' (%p) Class '%s'>"), *Object->GetPathName(),
 										 static_cast<void*>(Object), *Object->GetClass()->GetName());
 	return PythonStrings::ToPython(Text).Release();
 }

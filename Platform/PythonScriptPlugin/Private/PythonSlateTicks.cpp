@@ -1,6 +1,7 @@
 #include "PythonSlateTicks.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Misc/CoreDelegates.h"
 #include "PythonErrors.h"
 #include "PythonInterpreter.h"
 #include "PythonLog.h"
@@ -58,14 +59,39 @@ static FDelegateHandle GPreTickHandle;
 static FDelegateHandle GPostTickHandle;
 static uint64 GLastHandle = 0;
 
+static FDelegateHandle GSleepHandle;
+static FDelegateHandle GWakeHandle;
+
+/** Lives while the main loop sleeps and scripts have threads of their own. */
+static TUniquePtr<FInterpreterRelease> GReleaseWhileAsleep;
+
+static bool HasOtherThreads()
+{
+	PyThreadState* const First = PyInterpreterState_ThreadHead(PyInterpreterState_Get());
+	return First && PyThreadState_Next(First);
+}
+
 /** Threads that scripts started wait for the interpreter lock, which the main thread holds else all the time. */
 static void LetOtherThreadsRun()
 {
-	PyThreadState* const First = PyInterpreterState_ThreadHead(PyInterpreterState_Get());
-	if (First && PyThreadState_Next(First))
+	if (HasOtherThreads())
 	{
 		const FInterpreterRelease Turn;
 	}
+}
+
+/** A sleeping editor leaves the interpreter to the threads of scripts. */
+static void FollowSleep()
+{
+	GSleepHandle = FCoreDelegates::OnMainLoopSleep.AddLambda(
+		[]
+		{
+			if (HasOtherThreads())
+			{
+				GReleaseWhileAsleep = MakeUnique<FInterpreterRelease>();
+			}
+		});
+	GWakeHandle = FCoreDelegates::OnMainLoopWake.AddLambda([] { GReleaseWhileAsleep.Reset(); });
 }
 
 void PythonSlateTicks::Start()
@@ -74,6 +100,7 @@ void PythonSlateTicks::Start()
 	{
 		return;
 	}
+	FollowSleep();
 	GPreTickHandle = FSlateApplication::Get().OnPreTick().AddLambda(
 		[](float DeltaSeconds)
 		{
@@ -107,6 +134,8 @@ void PythonSlateTicks::ReleaseAll()
 		FSlateApplication::Get().OnPreTick().Remove(GPreTickHandle);
 		FSlateApplication::Get().OnPostTick().Remove(GPostTickHandle);
 	}
+	FCoreDelegates::OnMainLoopSleep.Remove(GSleepHandle);
+	FCoreDelegates::OnMainLoopWake.Remove(GWakeHandle);
 	GPreTickHandle.Reset();
 	GPostTickHandle.Reset();
 	GPreTickCallbacks.Empty();

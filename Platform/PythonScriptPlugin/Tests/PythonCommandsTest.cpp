@@ -31,8 +31,8 @@ TEST(PythonCommands, TextBeyondAsciiArrivesUnchanged)
 {
 	EXPECT_TRUE(RunPython(TEXT("beyond = '\u00e4\u4e16\U0001F600'")));
 	EXPECT_EQ(Evaluate(TEXT("[hex(ord(c)) for c in beyond]")), TEXT("['0xe4', '0x4e16', '0x1f600']"));
-	EXPECT_EQ(RunEx(TEXT("beyond"), EPythonCommandExecutionMode::EvaluateStatement).CommandResult,
-			  TEXT("'\u00e4\u4e16\U0001F600'"));
+	EXPECT_EQ(
+		RunEx(TEXT("beyond"), EPythonCommandExecutionMode::EvaluateStatement).CommandResult, TEXT("'\u00e4\u4e16\U0001F600'"));
 }
 
 TEST(PythonCommands, TextsThatDifferInCaseOnlyAreDifferentCommands)
@@ -98,8 +98,8 @@ TEST(PythonCommands, OutputIsCapturedLineByLine)
 	{
 		Lines.Add(FString(LexToString(Entry.Type)) + TEXT(": ") + Entry.Output);
 	}
-	EXPECT_EQ(Lines,
-			  TArray<FString>({TEXT("Info: a"), TEXT("Info: b"), TEXT("Warning: w"), TEXT("Error: e"), TEXT("Info: end")}));
+	EXPECT_EQ(
+		Lines, TArray<FString>({TEXT("Info: a"), TEXT("Info: b"), TEXT("Warning: w"), TEXT("Error: e"), TEXT("Info: end")}));
 }
 
 TEST(PythonCommands, FileGetsItsArguments)
@@ -132,11 +132,11 @@ TEST(PythonCommands, FileHasVariablesOfItsOwnUnlessPublic)
 TEST(PythonCommands, FileIsReadAgainAtEachRun)
 {
 	const FTempProject Project;
-	const FString Script = Project.Write(TEXT("again.py"), TEXT("import builtins; builtins.again = 1\n"));
+	const FString Script = Project.Write(TEXT("again.py"), TEXT("import builtins; builtins.read_again = 1\n"));
 	EXPECT_TRUE(RunPython(Script));
-	Project.Write(TEXT("again.py"), TEXT("import builtins; builtins.again = 2\n"));
+	Project.Write(TEXT("again.py"), TEXT("import builtins; builtins.read_again = 2\n"));
 	EXPECT_TRUE(RunPython(Script));
-	EXPECT_EQ(Evaluate(TEXT("again")), TEXT("2"));
+	EXPECT_EQ(Evaluate(TEXT("read_again")), TEXT("2"));
 }
 
 TEST(PythonCommands, ScriptImportsItsNeighboursWhileItRuns)
@@ -154,8 +154,7 @@ TEST(PythonCommands, MissingFileIsAnErrorLine)
 {
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_FALSE(RunPython(TEXT("nowhere.py now")));
-	EXPECT_EQ(
-		Log.Errors(),
+	EXPECT_EQ(Log.Errors(),
 		TArray<FString>({TEXT("FileNotFoundError: Python file 'nowhere.py' is neither in the working folder nor on sys.path")}));
 }
 

@@ -9,7 +9,7 @@ TEST(PythonArray, IsAListOfOneType)
 	EXPECT_TRUE(RunPython(TEXT("a = unreal.Array(str)\na.append('b')\na.extend(['a', 'c'])\na.insert(0, 'z')")));
 	EXPECT_EQ(Evaluate(TEXT("list(a)")), TEXT("['z', 'b', 'a', 'c']"));
 	EXPECT_EQ(Evaluate(TEXT("(len(a), a[0], a[-1], a[1:3], 'a' in a, a.index('a'), a.count('q'))")),
-			  TEXT("(4, 'z', 'c', ['b', 'a'], True, 2, 0)"));
+		TEXT("(4, 'z', 'c', ['b', 'a'], True, 2, 0)"));
 	EXPECT_EQ(Evaluate(TEXT("type(a[1:3]).__name__")), TEXT("'Array'"));
 	EXPECT_TRUE(RunPython(TEXT("a.sort()\na.reverse()\nlast = a.pop()\na.remove('z')")));
 	EXPECT_EQ(Evaluate(TEXT("(last, a)")), TEXT("('a', ['c', 'b'])"));
@@ -34,7 +34,7 @@ TEST(PythonArray, ComparesItemByItemWithLists)
 {
 	EXPECT_TRUE(RunPython(TEXT("a = unreal.Array.cast(int, [1, 2])")));
 	EXPECT_EQ(Evaluate(TEXT("(a == [1, 2], a == [2, 1], [1, 2] == a, a != (1, 2), a < [1, 3], a == a.copy())")),
-			  TEXT("(True, False, True, True, True, True)"));
+		TEXT("(True, False, True, True, True, True)"));
 }
 
 TEST(PythonArray, ResizesWithDefaults)
@@ -50,11 +50,11 @@ TEST(PythonArray, ParameterTakesAnyIterableButNoText)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_names(str(i) for i in range(2))")), TEXT("[Name('0'), Name('1')]"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_names(unreal.PythonTestFunctions.echo_names(['a']))")),
-			  TEXT("[Name('a')]"));
+		TEXT("[Name('a')]"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_names('ab')")),
-			  TEXT("TypeError: PythonTestFunctions.echo_names(): argument 'value' (pos 1): expected iterable of Name, got str"));
+		TEXT("TypeError: PythonTestFunctions.echo_names(): argument 'value' (pos 1): expected iterable of Name, got str"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_names(1/0 for i in range(2))")),
-			  TEXT("ZeroDivisionError: division by zero"));
+		TEXT("ZeroDivisionError: division by zero"));
 }
 
 TEST(PythonSet, IsASetInTheOrderOfAdding)
@@ -75,10 +75,10 @@ TEST(PythonMap, IsADictionaryInTheOrderOfAdding)
 {
 	EXPECT_TRUE(RunPython(TEXT("m = unreal.Map(str, int)\nm['b'] = 1\nm['a'] = 2\nm.update({'c': 3}, d=4)")));
 	EXPECT_EQ(Evaluate(TEXT("(len(m), m['B'], 'A' in m, m.get('x'), m.get('x', 9), list(m), m.values())")),
-			  TEXT("(4, 1, True, None, 9, ['b', 'a', 'c', 'd'], [1, 2, 3, 4])"));
+		TEXT("(4, 1, True, None, 9, ['b', 'a', 'c', 'd'], [1, 2, 3, 4])"));
 	EXPECT_TRUE(RunPython(TEXT("del m['b']\npopped = m.pop('c')")));
-	EXPECT_EQ(Evaluate(TEXT("(popped, m.pop('c', None), dict(m), m == {'a': 2, 'd': 4})")),
-			  TEXT("(3, None, {'a': 2, 'd': 4}, True)"));
+	EXPECT_EQ(
+		Evaluate(TEXT("(popped, m.pop('c', None), dict(m), m == {'a': 2, 'd': 4})")), TEXT("(3, None, {'a': 2, 'd': 4}, True)"));
 	EXPECT_EQ(ErrorOf(TEXT("m['nothing']")), TEXT("KeyError: 'nothing'"));
 	EXPECT_EQ(ErrorOf(TEXT("m.update({'e': 1, 'f': 'x'})")), TEXT("TypeError: expected int, got str"));
 	EXPECT_EQ(Evaluate(TEXT("m")), TEXT("{'a': 2, 'd': 4}"));
@@ -87,8 +87,7 @@ TEST(PythonMap, IsADictionaryInTheOrderOfAdding)
 TEST(PythonMap, ParameterTakesMappings)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_map({'a': 1.5})")), TEXT("{'a': 1.5}"));
-	EXPECT_EQ(
-		ErrorOf(TEXT("unreal.PythonTestFunctions.echo_map([1])")),
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_map([1])")),
 		TEXT("TypeError: PythonTestFunctions.echo_map(): argument 'value' (pos 1): expected mapping of str to float, got list"));
 }
 
@@ -96,5 +95,5 @@ TEST(PythonContainers, AreCollections)
 {
 	EXPECT_EQ(Evaluate(TEXT("[isinstance(c, getattr(__import__('collections').abc, n)) for c, n in ") TEXT(
 				  "((unreal.Array(int), 'MutableSequence'), (unreal.Set(int), 'Set'), (unreal.Map(int, int), 'Mapping'))]")),
-			  TEXT("[True, True, True]"));
+		TEXT("[True, True, True]"));
 }

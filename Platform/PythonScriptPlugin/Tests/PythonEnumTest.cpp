@@ -8,7 +8,7 @@ TEST(PythonEnum, EntriesHaveNameAndValue)
 {
 	EXPECT_EQ(Evaluate(TEXT("(unreal.PythonTestColor.RED.name, unreal.PythonTestColor.RED.value)")), TEXT("('RED', 0)"));
 	EXPECT_EQ(Evaluate(TEXT("(unreal.PythonTestColor.LIGHT_GREEN.name, unreal.PythonTestColor.LIGHT_GREEN.value)")),
-			  TEXT("('LIGHT_GREEN', 5)"));
+		TEXT("('LIGHT_GREEN', 5)"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestColor.LIGHT_GREEN")), TEXT("<PythonTestColor.LIGHT_GREEN: 5>"));
 }
 
@@ -26,8 +26,8 @@ TEST(PythonEnum, ParametersTakeEntryAndInt)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_enum(5).name")), TEXT("'LIGHT_GREEN'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_enum(77).value")), TEXT("77"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_enum(unreal.PythonCommandExecutionMode.EXECUTE_FILE)")),
-			  TEXT("TypeError: PythonTestFunctions.echo_enum(): argument 'value' (pos 1): expected PythonTestColor, got "
-				   "PythonCommandExecutionMode"));
+		TEXT("TypeError: PythonTestFunctions.echo_enum(): argument 'value' (pos 1): expected PythonTestColor, got "
+			 "PythonCommandExecutionMode"));
 }
 
 TEST(PythonEnum, CastTakesValueAndEntry)

@@ -10,12 +10,13 @@ TEST(PythonErrors, TracebackComesLineByLineWithTheSourceOfTheCommand)
 {
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_FALSE(RunPython(TEXT("x = 1\nraise ValueError('wrong')")));
-	EXPECT_EQ(Log.Lines(), TArray<FString>({
-							   TEXT("LogPython: Error: Traceback (most recent call last):"),
-							   TEXT("LogPython: Error:   File \"<string>\", line 2, in <module>"),
-							   TEXT("LogPython: Error:     raise ValueError('wrong')"),
-							   TEXT("LogPython: Error: ValueError: wrong"),
-						   }));
+	EXPECT_EQ(Log.Lines(),
+		TArray<FString>({
+			TEXT("LogPython: Error: Traceback (most recent call last):"),
+			TEXT("LogPython: Error:   File \"<string>\", line 2, in <module>"),
+			TEXT("LogPython: Error:     raise ValueError('wrong')"),
+			TEXT("LogPython: Error: ValueError: wrong"),
+		}));
 }
 
 TEST(PythonErrors, EachFrameShowsTheSourceOfTheCommandItCameFrom)
@@ -23,26 +24,28 @@ TEST(PythonErrors, EachFrameShowsTheSourceOfTheCommandItCameFrom)
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_TRUE(RunPython(TEXT("\n\ndef defined_before():\n    raise KeyError('k')")));
 	EXPECT_FALSE(RunPython(TEXT("defined_before()")));
-	EXPECT_EQ(Log.Errors(), TArray<FString>({
-								TEXT("Traceback (most recent call last):"),
-								TEXT("  File \"<string>\", line 1, in <module>"),
-								TEXT("    defined_before()"),
-								TEXT("  File \"<string>\", line 4, in defined_before"),
-								TEXT("    raise KeyError('k')"),
-								TEXT("KeyError: 'k'"),
-							}));
+	EXPECT_EQ(Log.Errors(),
+		TArray<FString>({
+			TEXT("Traceback (most recent call last):"),
+			TEXT("  File \"<string>\", line 1, in <module>"),
+			TEXT("    defined_before()"),
+			TEXT("  File \"<string>\", line 4, in defined_before"),
+			TEXT("    raise KeyError('k')"),
+			TEXT("KeyError: 'k'"),
+		}));
 }
 
 TEST(PythonErrors, SyntaxErrorShowsThePlace)
 {
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_FALSE(RunPython(TEXT("print('a)")));
-	EXPECT_EQ(Log.Errors(), TArray<FString>({
-								TEXT("  File \"<string>\", line 1"),
-								TEXT("    print('a)"),
-								TEXT("          ^"),
-								TEXT("SyntaxError: unterminated string literal (detected at line 1)"),
-							}));
+	EXPECT_EQ(Log.Errors(),
+		TArray<FString>({
+			TEXT("  File \"<string>\", line 1"),
+			TEXT("    print('a)"),
+			TEXT("          ^"),
+			TEXT("SyntaxError: unterminated string literal (detected at line 1)"),
+		}));
 }
 
 TEST(PythonErrors, FrameOfAFileNamesTheFile)
@@ -51,12 +54,13 @@ TEST(PythonErrors, FrameOfAFileNamesTheFile)
 	const FString Script = Project.Write(TEXT("raises.py"), TEXT("\nraise RuntimeError('r')\n"));
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_FALSE(RunPython(Script));
-	EXPECT_EQ(Log.Errors(), TArray<FString>({
-								TEXT("Traceback (most recent call last):"),
-								FString::Printf(TEXT("  File \"%s\", line 2, in <module>"), *Script),
-								TEXT("    raise RuntimeError('r')"),
-								TEXT("RuntimeError: r"),
-							}));
+	EXPECT_EQ(Log.Errors(),
+		TArray<FString>({
+			TEXT("Traceback (most recent call last):"),
+			FString::Printf(TEXT("  File \"%s\", line 2, in <module>"), *Script),
+			TEXT("    raise RuntimeError('r')"),
+			TEXT("RuntimeError: r"),
+		}));
 }
 
 TEST(PythonErrors, LastLineSaysWhatIsBeingHandledInnermostFirst)
@@ -115,6 +119,15 @@ TEST(PythonErrors, CommandWithinACommandFailsAlone)
 
 TEST(PythonErrors, EndlessRecursionIsAnError)
 {
-	EXPECT_EQ(ErrorOf(TEXT("def endless():\n    endless()\nendless()")),
-			  TEXT("RecursionError: maximum recursion depth exceeded"));
+	EXPECT_EQ(
+		ErrorOf(TEXT("def endless():\n    endless()\nendless()")), TEXT("RecursionError: maximum recursion depth exceeded"));
+}
+
+TEST(PythonErrors, CommandsThatRunEachOtherEndlesslyEnd)
+{
+	const FLogCapture Log(TEXT("LogPython"));
+	EXPECT_TRUE(RunPython(TEXT("def run_endlessly():\n    unreal.PythonTestFunctions.run_command('run_endlessly()')")));
+	RunPython(TEXT("run_endlessly()"));
+	EXPECT_TRUE(Log.Errors().ContainsByPredicate([](const FString& Line) { return Line.StartsWith(TEXT("RecursionError")); }));
+	EXPECT_EQ(Evaluate(TEXT("1 + 1")), TEXT("2"));
 }

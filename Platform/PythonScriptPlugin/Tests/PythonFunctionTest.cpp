@@ -47,8 +47,8 @@ TEST(PythonFunction, DefaultsAreThoseOfCpp)
 {
 	EXPECT_EQ(Call(TEXT("defaults")), TEXT("'5 abc None 1 1.0/2.0 5'"));
 	EXPECT_EQ(Call(TEXT("defaults"), TEXT("1, flag=False")), TEXT("'1 abc None 0 1.0/2.0 5'"));
-	EXPECT_EQ(Call(TEXT("defaults"), TEXT("point=[3, 4], color=unreal.PythonTestColor.RED, name='n'")),
-			  TEXT("'5 abc n 1 3.0/4.0 0'"));
+	EXPECT_EQ(
+		Call(TEXT("defaults"), TEXT("point=[3, 4], color=unreal.PythonTestColor.RED, name='n'")), TEXT("'5 abc n 1 3.0/4.0 0'"));
 }
 
 TEST(PythonFunction, KeywordsAndPositionsMix)
@@ -65,23 +65,23 @@ TEST(PythonFunction, WrongArgumentsRaiseAsInPython)
 	EXPECT_EQ(CallError(TEXT("one_out"), TEXT("")), TEXT("TypeError: one_out() missing required argument 'number' (pos 1)"));
 	EXPECT_EQ(CallError(TEXT("one_out"), TEXT("1, 2")), TEXT("TypeError: one_out() takes at most 1 argument (2 given)"));
 	EXPECT_EQ(CallError(TEXT("reserved"), TEXT("1, 2, 3")), TEXT("TypeError: reserved() takes at most 2 arguments (3 given)"));
-	EXPECT_EQ(CallError(TEXT("one_out"), TEXT("value=1")),
-			  TEXT("TypeError: 'value' is an invalid keyword argument for one_out()"));
+	EXPECT_EQ(
+		CallError(TEXT("one_out"), TEXT("value=1")), TEXT("TypeError: 'value' is an invalid keyword argument for one_out()"));
 	EXPECT_EQ(CallError(TEXT("reserved"), TEXT("1, from_=1")),
-			  TEXT("TypeError: argument for reserved() given by name ('from_') and position (1)"));
+		TEXT("TypeError: argument for reserved() given by name ('from_') and position (1)"));
 }
 
 TEST(PythonFunction, WrongTypeNamesClassFunctionAndParameter)
 {
 	EXPECT_EQ(CallError(TEXT("echo_int"), TEXT("'1'")),
-			  TEXT("TypeError: PythonTestFunctions.echo_int(): argument 'value' (pos 1): expected int, got str"));
+		TEXT("TypeError: PythonTestFunctions.echo_int(): argument 'value' (pos 1): expected int, got str"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject().set_text('a', 5)")),
-			  TEXT("TypeError: PythonTestObject.set_text(): argument 'text' (pos 2): expected str, got int"));
+		TEXT("TypeError: PythonTestObject.set_text(): argument 'text' (pos 2): expected str, got int"));
 	EXPECT_EQ(CallError(TEXT("echo_object"), TEXT("unreal.PythonTestFunctions.get_default_object()")),
-			  TEXT("TypeError: PythonTestFunctions.echo_object(): argument 'value' (pos 1): expected PythonTestObject or None, "
-				   "got PythonTestFunctions"));
+		TEXT("TypeError: PythonTestFunctions.echo_object(): argument 'value' (pos 1): expected PythonTestObject or None, "
+			 "got PythonTestFunctions"));
 	EXPECT_EQ(CallError(TEXT("echo_names"), TEXT("['a', 5]")),
-			  TEXT("TypeError: PythonTestFunctions.echo_names(): argument 'value' (pos 1): expected Name or str, got int"));
+		TEXT("TypeError: PythonTestFunctions.echo_names(): argument 'value' (pos 1): expected Name or str, got int"));
 }
 
 TEST(PythonFunction, ReservedWordsAsParametersEndInAnUnderscore)
@@ -107,11 +107,11 @@ TEST(PythonFunction, NumbersConvert)
 	EXPECT_EQ(Call(TEXT("echo_float"), TEXT("1e300")), TEXT("inf"));
 	EXPECT_EQ(Call(TEXT("plain_bool"), TEXT("7")), TEXT("True"));
 	EXPECT_EQ(CallError(TEXT("echo_int"), TEXT("float('nan')")),
-			  TEXT("ValueError: PythonTestFunctions.echo_int(): argument 'value' (pos 1): cannot convert float NaN to integer"));
+		TEXT("ValueError: PythonTestFunctions.echo_int(): argument 'value' (pos 1): cannot convert float NaN to integer"));
 	EXPECT_EQ(CallError(TEXT("plain_bool"), TEXT("None")),
-			  TEXT("TypeError: PythonTestFunctions.plain_bool(): argument 'value' (pos 1): expected bool, got NoneType"));
+		TEXT("TypeError: PythonTestFunctions.plain_bool(): argument 'value' (pos 1): expected bool, got NoneType"));
 	EXPECT_EQ(CallError(TEXT("echo_float"), TEXT("'1.5'")),
-			  TEXT("TypeError: PythonTestFunctions.echo_float(): argument 'value' (pos 1): expected float, got str"));
+		TEXT("TypeError: PythonTestFunctions.echo_float(): argument 'value' (pos 1): expected float, got str"));
 }
 
 TEST(PythonFunction, TextsConvert)
@@ -127,14 +127,14 @@ TEST(PythonFunction, TextsConvert)
 
 TEST(PythonFunction, ClassesAreTakenAsObjectOrType)
 {
-	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_class(unreal.PythonTestChild).get_name()")),
-			  TEXT("'PythonTestChild'"));
+	EXPECT_EQ(
+		Evaluate(TEXT("unreal.PythonTestFunctions.echo_class(unreal.PythonTestChild).get_name()")), TEXT("'PythonTestChild'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_class(unreal.PythonTestChild.static_class()).get_name()")),
-			  TEXT("'PythonTestChild'"));
+		TEXT("'PythonTestChild'"));
 	EXPECT_EQ(Call(TEXT("echo_class"), TEXT("None")), TEXT("None"));
 	EXPECT_EQ(CallError(TEXT("echo_class"), TEXT("unreal.Object")),
-			  TEXT("TypeError: PythonTestFunctions.echo_class(): argument 'value' (pos 1): expected class derived from "
-				   "PythonTestObject, got type"));
+		TEXT("TypeError: PythonTestFunctions.echo_class(): argument 'value' (pos 1): expected class derived from "
+			 "PythonTestObject, got type"));
 }
 
 TEST(PythonFunction, AliasAndDeprecatedFunctionWorkAndWarn)
@@ -144,12 +144,13 @@ TEST(PythonFunction, AliasAndDeprecatedFunctionWorkAndWarn)
 	EXPECT_EQ(Log.Warnings().Num(), 0);
 	EXPECT_EQ(Call(TEXT("old_name")), TEXT("12"));
 	EXPECT_EQ(Call(TEXT("outdated")), TEXT("13"));
-	EXPECT_EQ(Log.Warnings(), TArray<FString>({
-								  TEXT("<string>:1: DeprecationWarning: PythonTestFunctions: Function 'old_name' on "
-									   "'PythonTestFunctions' is deprecated: use 'nice_name'"),
-								  TEXT("<string>:1: DeprecationWarning: PythonTestFunctions: Function 'outdated' on "
-									   "'PythonTestFunctions' is deprecated: Use echo_int."),
-							  }));
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({
+			TEXT("<string>:1: DeprecationWarning: PythonTestFunctions: Function 'old_name' on "
+				 "'PythonTestFunctions' is deprecated: use 'nice_name'"),
+			TEXT("<string>:1: DeprecationWarning: PythonTestFunctions: Function 'outdated' on "
+				 "'PythonTestFunctions' is deprecated: Use echo_int."),
+		}));
 	EXPECT_EQ(Evaluate(TEXT("hasattr(unreal.PythonTestFunctions, 'k2_ugly_name')")), TEXT("False"));
 }
 
@@ -157,18 +158,18 @@ TEST(PythonFunction, DocumentationTellsSignatureArgumentsAndResult)
 {
 	EXPECT_TRUE(RunPython(TEXT("import inspect\nshown = unreal.PythonTestObject.get_text.__doc__.splitlines()")));
 	EXPECT_EQ(Evaluate(TEXT("shown")),
-			  TEXT("['X.get_text(aka_name) -> Optional[str]', 'Reads a text.', '', 'Args:', '    aka_name (Union[Name, str]): "
-				   "Whose text.', '', ")
-				  TEXT("'Returns:', '    Optional[str]: Whether there is one.', '', '    out_text (str): The text.']"));
+		TEXT("['X.get_text(aka_name) -> Optional[str]', 'Reads a text.', '', 'Args:', '    aka_name (Union[Name, str]): "
+			 "Whose text.', '', ")
+			TEXT("'Returns:', '    Optional[str]: Whether there is one.', '', '    out_text (str): The text.']"));
 	EXPECT_EQ(Evaluate(TEXT("str(inspect.signature(unreal.PythonTestObject.scroll_to))")),
-			  TEXT("'(self, /, aka_name, line_index=4, offset=-1)'"));
+		TEXT("'(self, /, aka_name, line_index=4, offset=-1)'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestObject.scroll_to.__qualname__")), TEXT("'PythonTestObject.scroll_to'"));
 }
 
 TEST(PythonFunction, MethodNeedsItsObject)
 {
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject.get_text('a')")),
-			  TEXT("TypeError: get_text() needs an object of type 'PythonTestObject' to be called on"));
+		TEXT("TypeError: get_text() needs an object of type 'PythonTestObject' to be called on"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestObject.get_text(unreal.PythonTestChild(), 'a')")), TEXT("None"));
 }
 
@@ -194,5 +195,5 @@ TEST(PythonFunction, CallMethodReachesFunctionsWithoutAPythonName)
 	EXPECT_EQ(Evaluate(TEXT("functions.call_method('Unexposed', (5,))")), TEXT("105"));
 	EXPECT_EQ(Evaluate(TEXT("functions.call_method('Unexposed', kwargs={'number': 6})")), TEXT("106"));
 	EXPECT_EQ(ErrorOf(TEXT("functions.call_method('Nowhere')")),
-			  TEXT("Exception: PythonTestLibrary: Failed to find function 'Nowhere' on 'PythonTestLibrary'"));
+		TEXT("Exception: PythonTestLibrary: Failed to find function 'Nowhere' on 'PythonTestLibrary'"));
 }

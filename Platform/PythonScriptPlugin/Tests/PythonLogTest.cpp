@@ -9,16 +9,18 @@ TEST(PythonLog, PrintAndStreamsGoToTheLog)
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_TRUE(
 		RunPython(TEXT("import sys\nprint('a', 1)\nprint('e', file=sys.stderr)\nsys.stdout.writelines(['b\\n', 'c\\n'])")));
-	EXPECT_EQ(Log.Lines(), TArray<FString>({TEXT("LogPython: Log: a 1"), TEXT("LogPython: Error: e"), TEXT("LogPython: Log: b"),
-											TEXT("LogPython: Log: c")}));
+	EXPECT_EQ(Log.Lines(),
+		TArray<FString>(
+			{TEXT("LogPython: Log: a 1"), TEXT("LogPython: Error: e"), TEXT("LogPython: Log: b"), TEXT("LogPython: Log: c")}));
 }
 
 TEST(PythonLog, EachLineIsALogLine)
 {
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_TRUE(RunPython(TEXT("print('a\\n\\nb\\r\\n', end='')\nprint()")));
-	EXPECT_EQ(Log.Lines(), TArray<FString>({TEXT("LogPython: Log: a"), TEXT("LogPython: Log: "), TEXT("LogPython: Log: b"),
-											TEXT("LogPython: Log: ")}));
+	EXPECT_EQ(Log.Lines(),
+		TArray<FString>(
+			{TEXT("LogPython: Log: a"), TEXT("LogPython: Log: "), TEXT("LogPython: Log: b"), TEXT("LogPython: Log: ")}));
 }
 
 TEST(PythonLog, UnfinishedLineShowsAtFlushAndAtTheEnd)
@@ -32,8 +34,8 @@ TEST(PythonLog, LogFunctionsHaveTheirLevels)
 {
 	const FLogCapture Log(TEXT("LogPython"));
 	EXPECT_TRUE(RunPython(TEXT("unreal.log('l'); unreal.log_warning(12); unreal.log_error('e'); unreal.log_flush()")));
-	EXPECT_EQ(Log.Lines(),
-			  TArray<FString>({TEXT("LogPython: Log: l"), TEXT("LogPython: Warning: 12"), TEXT("LogPython: Error: e")}));
+	EXPECT_EQ(
+		Log.Lines(), TArray<FString>({TEXT("LogPython: Log: l"), TEXT("LogPython: Warning: 12"), TEXT("LogPython: Error: e")}));
 }
 
 TEST(PythonLog, WarningsAreWarnings)

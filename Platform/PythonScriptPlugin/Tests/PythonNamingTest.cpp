@@ -53,7 +53,7 @@ TEST(PythonNaming, BoolPropertiesLoseTheirPrefix)
 TEST(PythonNaming, InputsLoseInAndOutputsKeepOut)
 {
 	ExpectEach({{TEXT("InXY"), TEXT("xy")}, {TEXT("InBlueprint"), TEXT("blueprint")}, {TEXT("InputNames"), TEXT("input_names")}},
-			   [](const FString& Name) { return PythonNaming::ParameterName(Name, false, true); });
+		[](const FString& Name) { return PythonNaming::ParameterName(Name, false, true); });
 	EXPECT_EQ(PythonNaming::ParameterName(TEXT("bInAllJoysticks"), true, true), TEXT("all_joysticks"));
 	EXPECT_EQ(PythonNaming::ParameterName(TEXT("OutAssetData"), false, false), TEXT("out_asset_data"));
 	EXPECT_EQ(PythonNaming::ParameterName(TEXT("OutXY"), false, false), TEXT("out_xy"));
@@ -62,15 +62,12 @@ TEST(PythonNaming, InputsLoseInAndOutputsKeepOut)
 TEST(PythonNaming, EnumEntriesAreUpperCase)
 {
 	ExpectEach({{TEXT("BLEND_AlphaComposite"), TEXT("BLEND_ALPHA_COMPOSITE")}, {TEXT("E16Bit"), TEXT("E16_BIT")}},
-			   &PythonNaming::ToUpperSnakeCase);
+		&PythonNaming::ToUpperSnakeCase);
 }
 
 TEST(PythonNaming, ReservedWordsGetAnUnderscoreAtTheEnd)
 {
-	ExpectEach({{TEXT("Property"), TEXT("property_")},
-				{TEXT("From"), TEXT("from_")},
-				{TEXT("Class"), TEXT("class_")},
-				{TEXT("Type"), TEXT("type")},
-				{TEXT("Filter"), TEXT("filter")}},
-			   &PythonNaming::ToSnakeCase);
+	ExpectEach({{TEXT("Property"), TEXT("property_")}, {TEXT("From"), TEXT("from_")}, {TEXT("Class"), TEXT("class_")},
+				   {TEXT("Type"), TEXT("type")}, {TEXT("Filter"), TEXT("filter")}},
+		&PythonNaming::ToSnakeCase);
 }

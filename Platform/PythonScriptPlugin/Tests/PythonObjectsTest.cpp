@@ -26,13 +26,21 @@ TEST(PythonObjects, ConstructorTakesOuterAndName)
 	EXPECT_EQ(Evaluate(TEXT("inner.get_world()")), TEXT("None"));
 }
 
+TEST(PythonObjects, ReprShowsPathAddressAndClass)
+{
+	EXPECT_TRUE(RunPython(TEXT("import re\nshown = repr(unreal.PythonTestObject(name='Shown'))")));
+	EXPECT_EQ(Evaluate(TEXT("bool(re.fullmatch(r\"<Object '/Engine/Transient\\.Shown' \\(0x[0-9a-fA-F]+\\) Class "
+							"'PythonTestObject'>\", shown))")),
+		TEXT("True"));
+}
+
 TEST(PythonObjects, WrongConstructionRaises)
 {
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestAbstract()")), TEXT("TypeError: the class 'PythonTestAbstract' is abstract"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject(5)")), TEXT("TypeError: expected Object or None as outer, got int"));
 	EXPECT_TRUE(RunPython(TEXT("taken = unreal.PythonTestObject(name='Taken')")));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestChild(name='Taken')")),
-			  TEXT("ValueError: '/Engine/Transient.Taken' is an object of another class, PythonTestObject"));
+		TEXT("ValueError: '/Engine/Transient.Taken' is an object of another class, PythonTestObject"));
 }
 
 TEST(PythonObjects, WrapperKeepsItsObjectThroughACollection)
@@ -76,7 +84,7 @@ TEST(PythonObjects, NewObjectInThePlaceOfAnOldOneHasAWrapperOfItsOwn)
 TEST(PythonObjects, CollectionWaitsForTheEndOfTheCommand)
 {
 	EXPECT_TRUE(RunPython(TEXT("unreal.PythonTestObject(name='Waits')\nunreal.PythonTestFunctions.collect_garbage()\n")
-							  TEXT("still_there = unreal.find_object(None, '/Engine/Transient.Waits') is not None")));
+			TEXT("still_there = unreal.find_object(None, '/Engine/Transient.Waits') is not None")));
 	EXPECT_EQ(Evaluate(TEXT("still_there")), TEXT("True"));
 }
 
@@ -92,7 +100,7 @@ TEST(PythonObjects, CastsCheckTheClass)
 	EXPECT_TRUE(RunPython(TEXT("child = unreal.PythonTestChild()\nparent = unreal.PythonTestObject()")));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestObject.cast(child) is child")), TEXT("True"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestChild.cast(parent)")),
-			  TEXT("TypeError: Cannot cast type 'PythonTestObject' to 'PythonTestChild'"));
+		TEXT("TypeError: Cannot cast type 'PythonTestObject' to 'PythonTestChild'"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestChild.cast(5)")), TEXT("TypeError: expected PythonTestChild, got int"));
 	EXPECT_EQ(Evaluate(TEXT("isinstance(child, unreal.PythonTestObject) and isinstance(child, unreal.Object)")), TEXT("True"));
 }
@@ -100,12 +108,12 @@ TEST(PythonObjects, CastsCheckTheClass)
 TEST(PythonObjects, ClassesAreObjects)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestChild.static_class().get_path_name()")),
-			  TEXT("'/Script/PythonScriptPluginTests.PythonTestChild'"));
+		TEXT("'/Script/PythonScriptPluginTests.PythonTestChild'"));
 	EXPECT_EQ(Evaluate(TEXT("type(unreal.PythonTestChild.static_class()).__name__")), TEXT("'Class'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestChild().get_class() is unreal.PythonTestChild.static_class()")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.get_default_object(unreal.PythonTestChild).get_name()")), TEXT("'Default__PythonTestChild'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.get_type_from_class(unreal.PythonTestChild.static_class()) is unreal.PythonTestChild")),
-			  TEXT("True"));
+		TEXT("True"));
 }
 
 TEST(PythonObjects, RenameMovesAndRefusesATakenName)
@@ -115,7 +123,7 @@ TEST(PythonObjects, RenameMovesAndRefusesATakenName)
 	EXPECT_EQ(Evaluate(TEXT("movable.rename('Moved', other)")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT("movable.get_path_name()")), TEXT("'/Engine/Transient.OtherOne:Moved'"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject().rename('OtherOne')")),
-			  TEXT("ValueError: the name is taken by '/Engine/Transient.OtherOne'"));
+		TEXT("ValueError: the name is taken by '/Engine/Transient.OtherOne'"));
 }
 
 TEST(PythonObjects, FindNewAndLoadObject)
@@ -135,7 +143,7 @@ TEST(PythonObjects, IteratorsWalkObjectsAndClasses)
 	EXPECT_TRUE(RunPython(TEXT("walked = unreal.PythonTestChild(name='Walked')")));
 	EXPECT_EQ(Evaluate(TEXT("walked in list(unreal.ObjectIterator(unreal.PythonTestObject))")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT("sorted(c.get_name() for c in unreal.ClassIterator(unreal.PythonTestObject))")),
-			  TEXT("['PythonTestChild', 'PythonTestObject']"));
+		TEXT("['PythonTestChild', 'PythonTestObject']"));
 }
 
 TEST(PythonObjects, PythonClassesMayDerive)

@@ -31,8 +31,8 @@ TEST_F(PythonProperty, AttributesReadAndWrite)
 TEST_F(PythonProperty, AttributesRefuseWhatIsReadOnlyOrUnknown)
 {
 	EXPECT_EQ(ErrorOf(TEXT("subject.fixed = 1.0")), TEXT("AttributeError: attribute 'fixed' of 'PythonTestObject' is read-only"));
-	EXPECT_EQ(ErrorOf(TEXT("del subject.count")),
-			  TEXT("AttributeError: attribute 'count' of 'PythonTestObject' cannot be deleted"));
+	EXPECT_EQ(
+		ErrorOf(TEXT("del subject.count")), TEXT("AttributeError: attribute 'count' of 'PythonTestObject' cannot be deleted"));
 	EXPECT_EQ(ErrorOf(TEXT("subject.hidden")), TEXT("AttributeError: 'PythonTestObject' object has no attribute 'hidden'"));
 	EXPECT_EQ(ErrorOf(TEXT("subject.nothing = 1")), TEXT("AttributeError: 'PythonTestObject' object has no attribute 'nothing'"));
 }
@@ -40,8 +40,8 @@ TEST_F(PythonProperty, AttributesRefuseWhatIsReadOnlyOrUnknown)
 TEST_F(PythonProperty, WrongTypeNamesThePropertyAndChangesNothing)
 {
 	EXPECT_EQ(ErrorOf(TEXT("subject.count = 'x'")), TEXT("TypeError: PythonTestObject: property 'count': expected int, got str"));
-	EXPECT_EQ(ErrorOf(TEXT("subject.lines = ['a', 5]")),
-			  TEXT("TypeError: PythonTestObject: property 'lines': expected str, got int"));
+	EXPECT_EQ(
+		ErrorOf(TEXT("subject.lines = ['a', 5]")), TEXT("TypeError: PythonTestObject: property 'lines': expected str, got int"));
 	EXPECT_EQ(Subject()->Count, 3);
 	EXPECT_EQ(Subject()->Lines.Num(), 0);
 }
@@ -64,14 +64,14 @@ TEST_F(PythonProperty, EditorPropertiesTakePythonAndCppNames)
 	EXPECT_EQ(Evaluate(TEXT("subject.get_editor_property('bIsEnabled')")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT("subject.get_editor_property(unreal.Name('BISENABLED'))")), TEXT("True"));
 	EXPECT_EQ(ErrorOf(TEXT("subject.get_editor_property('b_is_enabled')")),
-			  TEXT("Exception: PythonTestObject: Failed to find property 'b_is_enabled' for attribute 'b_is_enabled' on "
-				   "'PythonTestObject'"));
+		TEXT("Exception: PythonTestObject: Failed to find property 'b_is_enabled' for attribute 'b_is_enabled' on "
+			 "'PythonTestObject'"));
 }
 
 TEST_F(PythonProperty, ReadOnlyEditorPropertyRaises)
 {
 	EXPECT_EQ(ErrorOf(TEXT("subject.set_editor_property('fixed', 1.0)")),
-			  TEXT("Exception: PythonTestObject: Property 'fixed' on 'PythonTestObject' is read-only and cannot be set"));
+		TEXT("Exception: PythonTestObject: Property 'fixed' on 'PythonTestObject' is read-only and cannot be set"));
 }
 
 TEST_F(PythonProperty, SeveralEditorPropertiesAreSetTogetherOrNotAtAll)
@@ -79,7 +79,7 @@ TEST_F(PythonProperty, SeveralEditorPropertiesAreSetTogetherOrNotAtAll)
 	EXPECT_TRUE(RunPython(TEXT("subject.set_editor_properties({'count': 1, 'title': 'x'})")));
 	EXPECT_EQ(Subject()->Edits, TArray<FString>({TEXT("Count"), TEXT("Title")}));
 	EXPECT_EQ(ErrorOf(TEXT("subject.set_editor_properties({'count': 2, 'title': 5})")),
-			  TEXT("TypeError: PythonTestObject: property 'title': expected str, got int"));
+		TEXT("TypeError: PythonTestObject: property 'title': expected str, got int"));
 	EXPECT_EQ(Subject()->Count, 1);
 	EXPECT_EQ(Subject()->Edits.Num(), 2);
 }

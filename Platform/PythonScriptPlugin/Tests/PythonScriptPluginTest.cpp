@@ -56,7 +56,7 @@ TEST(PythonScriptPlugin, ProjectTurnsPythonOff)
 	{
 		const FTempProject Project(TEXT("NoPython"));
 		Project.Write(TEXT("NoPython.uproject"),
-					  TEXT("{ \"FileVersion\": 3, \"Plugins\": [ { \"Name\": \"PythonScriptPlugin\", \"Enabled\": false } ] }"));
+			TEXT("{ \"FileVersion\": 3, \"Plugins\": [ { \"Name\": \"PythonScriptPlugin\", \"Enabled\": false } ] }"));
 		IPluginManager::Get().RefreshPluginsList();
 		ExpectNothingRuns(FSecondPython());
 	}
@@ -73,12 +73,12 @@ TEST(PythonScriptPlugin, InterpreterIsIsolated)
 {
 	EXPECT_EQ(Evaluate(TEXT("(__import__('sys').flags.isolated, __import__('sys').flags.ignore_environment, "
 							"__import__('sys').flags.no_user_site)")),
-			  TEXT("(1, 1, 1)"));
+		TEXT("(1, 1, 1)"));
 	EXPECT_EQ(Evaluate(TEXT("any(p.endswith('dist-packages') for p in __import__('sys').path)")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.get_interpreter_executable_path() == __import__('sys').executable")), TEXT("True"));
 	EXPECT_EQ(Evaluate(TEXT(
 				  "__import__('subprocess').check_output([unreal.get_interpreter_executable_path(), '-c', 'print(7)']).strip()")),
-			  TEXT("b'7'"));
+		TEXT("b'7'"));
 }
 
 TEST(PythonScriptPlugin, ExtensionModulesOfTheSystemCanBeImported)
@@ -122,5 +122,5 @@ TEST(PythonScriptLibrary, RunsCommandsFromPython)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonScriptLibrary.execute_python_command_ex('1/0')")), TEXT("None"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonScriptLibrary.execute_python_command_ex('6*7', "
 							"execution_mode=unreal.PythonCommandExecutionMode.EVALUATE_STATEMENT)[0]")),
-			  TEXT("'42'"));
+		TEXT("'42'"));
 }

@@ -16,8 +16,8 @@ TEST(PythonSearchPaths, ComeFromEnvironmentSettingsPluginsAndProject)
 	const FTempProject Project;
 	Project.Write(TEXT("Plugins/Helper/Helper.uplugin"), TEXT("{ \"FileVersion\": 3, \"EnabledByDefault\": true }"));
 	Project.Write(TEXT("Config/DefaultEngine.ini"),
-				  TEXT("[/Script/PythonScriptPlugin.PythonScriptPluginSettings]\n+AdditionalPaths=(Path=\"KX/Kestrix/"
-					   "Python\")\n+AdditionalPaths=/plain/path/\n"));
+		TEXT("[/Script/PythonScriptPlugin.PythonScriptPluginSettings]\n+AdditionalPaths=(Path=\"KX/Kestrix/"
+			 "Python\")\n+AdditionalPaths=/plain/path/\n"));
 	FConfigCacheIni::InitializeConfigSystem();
 	IPluginManager::Get().RefreshPluginsList();
 	FPlatformMisc::SetEnvironmentVar(TEXT("UE_PYTHONPATH"), TEXT("/from/environment"));

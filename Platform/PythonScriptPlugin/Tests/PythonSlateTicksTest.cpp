@@ -1,4 +1,5 @@
 #include "Framework/Application/SlateApplication.h"
+#include "Misc/CoreDelegates.h"
 #include "Misc/App.h"
 #include "Misc/CommandLine.h"
 #include "PythonTest.h"
@@ -31,9 +32,9 @@ protected:
 
 TEST_F(PythonSlateTicks, CallbacksRunBeforeAndAfterEachFrameWithTheSeconds)
 {
-	EXPECT_TRUE(RunPython(
-		TEXT("pre = unreal.register_slate_pre_tick_callback(lambda s: calls.append(('pre', type(s).__name__)))\n")
-			TEXT("post = unreal.register_slate_post_tick_callback(lambda s: calls.append(('post', type(s).__name__)))")));
+	EXPECT_TRUE(
+		RunPython(TEXT("pre = unreal.register_slate_pre_tick_callback(lambda s: calls.append(('pre', type(s).__name__)))\n")
+				TEXT("post = unreal.register_slate_post_tick_callback(lambda s: calls.append(('post', type(s).__name__)))")));
 	Frame();
 	Frame();
 	EXPECT_EQ(Evaluate(TEXT("calls")), TEXT("[('pre', 'float'), ('post', 'float'), ('pre', 'float'), ('post', 'float')]"));
@@ -62,8 +63,8 @@ TEST_F(PythonSlateTicks, CallbackMayUnregisterItselfAndOthers)
 {
 	EXPECT_TRUE(RunPython(TEXT("def once(seconds):\n    calls.append(1)\n    unreal.unregister_slate_post_tick_callback(first)\n "
 							   "   unreal.unregister_slate_post_tick_callback(second)\n")
-							  TEXT("first = unreal.register_slate_post_tick_callback(once)\nsecond = "
-								   "unreal.register_slate_post_tick_callback(lambda s: calls.append(2))")));
+			TEXT("first = unreal.register_slate_post_tick_callback(once)\nsecond = "
+				 "unreal.register_slate_post_tick_callback(lambda s: calls.append(2))")));
 	Frame();
 	Frame();
 	EXPECT_EQ(Evaluate(TEXT("calls")), TEXT("[1]"));
@@ -72,11 +73,24 @@ TEST_F(PythonSlateTicks, CallbackMayUnregisterItselfAndOthers)
 TEST_F(PythonSlateTicks, OtherThreadsGetTheirTurn)
 {
 	EXPECT_TRUE(RunPython(TEXT("import threading\nthread = threading.Thread(target=lambda: calls.append('thread'))\n")
-							  TEXT("go = threading.Event()\nthread = threading.Thread(target=lambda: (go.wait(), "
-								   "calls.append('thread')))\nthread.start()\ngo.set()")));
+			TEXT("go = threading.Event()\nthread = threading.Thread(target=lambda: (go.wait(), "
+				 "calls.append('thread')))\nthread.start()\ngo.set()")));
 	for (int32 Try = 0; Try < 100000 && Evaluate(TEXT("len(calls)")) == TEXT("0"); ++Try)
 	{
 		Frame();
+	}
+	EXPECT_EQ(Evaluate(TEXT("calls")), TEXT("['thread']"));
+	EXPECT_TRUE(RunPython(TEXT("thread.join()")));
+}
+
+TEST_F(PythonSlateTicks, OtherThreadsRunWhileTheMainLoopSleeps)
+{
+	EXPECT_TRUE(RunPython(TEXT("import threading\ngo = threading.Event()\n")
+			TEXT("thread = threading.Thread(target=lambda: (go.wait(), calls.append('thread')))\nthread.start()\ngo.set()")));
+	for (int32 Try = 0; Try < 100000 && Evaluate(TEXT("len(calls)")) == TEXT("0"); ++Try)
+	{
+		FCoreDelegates::OnMainLoopSleep.Broadcast();
+		FCoreDelegates::OnMainLoopWake.Broadcast();
 	}
 	EXPECT_EQ(Evaluate(TEXT("calls")), TEXT("['thread']"));
 	EXPECT_TRUE(RunPython(TEXT("thread.join()")));

@@ -11,7 +11,7 @@ TEST(PythonStruct, ConstructorTakesFieldsByPositionAndName)
 	EXPECT_EQ(Evaluate(TEXT("unreal.LinearColor(0.5, a=1).to_tuple()")), TEXT("(0.5, 0.0, 0.0, 1.0)"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace(1, 2, 'l', 4)")), TEXT("TypeError: PythonTestPlace has 3 fields (4 given)"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace(label=1)")),
-			  TEXT("TypeError: PythonTestPlace: property 'label': expected str, got int"));
+		TEXT("TypeError: PythonTestPlace: property 'label': expected str, got int"));
 }
 
 TEST(PythonStruct, ParametersTakeStructMappingOrSequence)
@@ -20,11 +20,11 @@ TEST(PythonStruct, ParametersTakeStructMappingOrSequence)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_place([3]).to_tuple()")), TEXT("(3.0, 7, '')"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_place(unreal.PythonTestPlace(4)).x")), TEXT("4.0"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_place('text')")),
-			  TEXT("TypeError: PythonTestFunctions.echo_place(): argument 'value' (pos 1): expected PythonTestPlace, mapping or "
-				   "sequence, got str"));
+		TEXT("TypeError: PythonTestFunctions.echo_place(): argument 'value' (pos 1): expected PythonTestPlace, mapping or "
+			 "sequence, got str"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestFunctions.echo_place(unreal.Vector())")),
-			  TEXT("TypeError: PythonTestFunctions.echo_place(): argument 'value' (pos 1): expected PythonTestPlace, mapping or "
-				   "sequence, got Vector"));
+		TEXT("TypeError: PythonTestFunctions.echo_place(): argument 'value' (pos 1): expected PythonTestPlace, mapping or "
+			 "sequence, got Vector"));
 }
 
 TEST(PythonStruct, ValuesCompareByContent)
@@ -55,6 +55,6 @@ TEST(PythonStruct, EditorPropertiesWorkOnFields)
 TEST(PythonStruct, CastAndRepr)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestPlace.cast({'x': 1})")),
-			  TEXT("<Struct 'PythonTestPlace' {x: 1.0, floor: 7, label: ''}>"));
+		TEXT("<Struct 'PythonTestPlace' {x: 1.0, floor: 7, label: ''}>"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestPlace.static_struct().get_name()")), TEXT("'PythonTestPlace'"));
 }

@@ -83,7 +83,7 @@ FString UPythonTestLibrary::ConstReference(const FString& Text)
 FString UPythonTestLibrary::Defaults(int32 Number, FString Text, FName Name, bool bFlag, FVector2D Point, EPythonTestColor Color)
 {
 	return FString::Printf(TEXT("%d %s %s %d %.1f/%.1f %d"), Number, *Text, *Name.ToString(), bFlag ? 1 : 0, Point.X, Point.Y,
-						   static_cast<int32>(Color));
+		static_cast<int32>(Color));
 }
 
 int32 UPythonTestLibrary::EchoInt(int32 Value)

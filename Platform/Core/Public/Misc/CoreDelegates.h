@@ -18,6 +18,10 @@ public:
 	/** The editor is up: the modules of all loading phases are started and its main window is there. */
 	static FSimpleMulticastDelegate OnPostEngineInit;
 
+	/** The main loop goes to sleep until there is something to do, and has come back from it. */
+	static FSimpleMulticastDelegate OnMainLoopSleep;
+	static FSimpleMulticastDelegate OnMainLoopWake;
+
 	/** The main loop has ended; windows are closed, everything else is still alive. */
 	static FSimpleMulticastDelegate OnEnginePreExit;
 };

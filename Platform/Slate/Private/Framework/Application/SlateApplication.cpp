@@ -40,12 +40,7 @@ void FSlateApplication::Shutdown()
 		return;
 	}
 	FSlateApplication& App = *CurrentApplication;
-	App.ToolTips->Close();
-	while (App.Windows.Num() > 0)
-	{
-		App.DestroyWindow(TSharedRef<SWindow>(App.Windows.Last()));
-	}
-	App.WindowsToDestroy.Empty();
+	App.CloseAllWindowsImmediately();
 	App.PlatformApplication->SetMessageHandler(MakeShared<FGenericApplicationMessageHandler>());
 	App.PlatformApplication->DestroyApplication();
 	CurrentApplication.Reset();

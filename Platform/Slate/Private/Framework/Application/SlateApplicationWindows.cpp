@@ -63,6 +63,16 @@ void FSlateApplication::DestroyWindow(const TSharedRef<SWindow>& Window)
 	RequestFrame();
 }
 
+void FSlateApplication::CloseAllWindowsImmediately()
+{
+	ToolTips->Close();
+	while (Windows.Num() > 0)
+	{
+		DestroyWindow(TSharedRef<SWindow>(Windows.Last()));
+	}
+	WindowsToDestroy.Empty();
+}
+
 TArray<TSharedRef<SWindow>> FSlateApplication::GetInteractiveTopLevelWindows() const
 {
 	return Windows.FilterByPredicate([](const TSharedRef<SWindow>& Window) { return Window->IsShown(); });

@@ -80,6 +80,9 @@ public:
 	TSharedRef<SWindow> AddWindow(const TSharedRef<SWindow>& InSlateWindow, bool bShowImmediately = true);
 	virtual void RequestDestroyWindow(const TSharedRef<SWindow>& WindowToDestroy) override;
 
+	/** Destroys every window now. Not from within an event. */
+	void CloseAllWindowsImmediately();
+
 	/** All windows; the one last activated is the last. */
 	const TArray<TSharedRef<SWindow>>& GetTopLevelWindows() const { return Windows; }
 	TArray<TSharedRef<SWindow>> GetInteractiveTopLevelWindows() const;
