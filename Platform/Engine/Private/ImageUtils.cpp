@@ -13,7 +13,8 @@ void FImageUtils::PNGCompressImageArray(
 	DstData.Empty();
 	if (ImageWidth <= 0 || ImageHeight <= 0 || int64(ImageWidth) * ImageHeight != SrcData.Num())
 	{
-		UE_LOG(LogImageUtils, Error, TEXT("No PNG can be made of %d pixels for a picture of %d x %d."), SrcData.Num(), ImageWidth, ImageHeight);
+		UE_LOG(LogImageUtils, Error, TEXT("No PNG can be made of %d pixels for a picture of %d x %d."), SrcData.Num(), ImageWidth,
+			ImageHeight);
 		return;
 	}
 
@@ -26,9 +27,11 @@ void FImageUtils::PNGCompressImageArray(
 	// Room for the largest file that these pixels can become.
 	png_alloc_size_t Size = PNG_IMAGE_PNG_SIZE_MAX(Image);
 	DstData.SetNumUninitialized(static_cast<int32>(Size));
-	if (!png_image_write_to_memory(&Image, DstData.GetData(), &Size, /* convert_to_8_bit */ 0, SrcData.GetData(), /* row_stride */ 0, nullptr))
+	if (!png_image_write_to_memory(
+			&Image, DstData.GetData(), &Size, /* convert_to_8_bit */ 0, SrcData.GetData(), /* row_stride */ 0, nullptr))
 	{
-		UE_LOG(LogImageUtils, Error, TEXT("A picture of %d x %d could not be compressed: %s"), ImageWidth, ImageHeight, *FString(Image.message));
+		UE_LOG(LogImageUtils, Error, TEXT("A picture of %d x %d could not be compressed: %s"), ImageWidth, ImageHeight,
+			*FString(Image.message));
 		DstData.Empty();
 		return;
 	}

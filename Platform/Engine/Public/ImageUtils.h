@@ -14,5 +14,6 @@ public:
 	 * @param SrcData  ImageWidth * ImageHeight pixels, top row first.
 	 * @param DstData  The bytes of the file; empty, with a log line, if there is no pixel, or another number of them.
 	 */
-	static void PNGCompressImageArray(int32 ImageWidth, int32 ImageHeight, const TArrayView64<const FColor>& SrcData, TArray64<uint8>& DstData);
+	static void PNGCompressImageArray(
+		int32 ImageWidth, int32 ImageHeight, const TArrayView64<const FColor>& SrcData, TArray64<uint8>& DstData);
 };

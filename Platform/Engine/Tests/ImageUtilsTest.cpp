@@ -26,8 +26,8 @@ TArray<FColor> Decode(const TArray64<uint8>& File, int32& OutWidth, int32& OutHe
 
 TEST(ImageUtils, PngHoldsEveryPixelWithItsAlpha)
 {
-	const TArray<FColor> Pixels = { FColor(255, 0, 0, 255), FColor(0, 255, 0, 128), FColor(0, 0, 255, 1), FColor(10, 20, 30, 255),
-		FColor(0, 0, 0, 255), FColor(255, 255, 255, 254) };
+	const TArray<FColor> Pixels = {FColor(255, 0, 0, 255), FColor(0, 255, 0, 128), FColor(0, 0, 255, 1), FColor(10, 20, 30, 255),
+		FColor(0, 0, 0, 255), FColor(255, 255, 255, 254)};
 
 	TArray64<uint8> File;
 	FImageUtils::PNGCompressImageArray(3, 2, Pixels, File);
@@ -42,17 +42,17 @@ TEST(ImageUtils, PngHoldsEveryPixelWithItsAlpha)
 TEST(ImageUtils, NumberOfPixelsThatDoesNotFitGivesNoFile)
 {
 	const FLogCapture Log(TEXT("LogImageUtils"));
-	const TArray<FColor> Pixels = { FColor(255, 0, 0, 255) };
+	const TArray<FColor> Pixels = {FColor(255, 0, 0, 255)};
 
-	for (const int32 Width : { 0, -1, 2 })
+	for (const int32 Width : {0, -1, 2})
 	{
-		TArray64<uint8> File = { 1 };
+		TArray64<uint8> File = {1};
 		FImageUtils::PNGCompressImageArray(Width, 1, Pixels, File);
 		EXPECT_EQ(File.Num(), 0) << Width;
 	}
 
 	EXPECT_EQ(Log.Errors(),
-		TArray<FString>({ TEXT("No PNG can be made of 1 pixels for a picture of 0 x 1."),
+		TArray<FString>({TEXT("No PNG can be made of 1 pixels for a picture of 0 x 1."),
 			TEXT("No PNG can be made of 1 pixels for a picture of -1 x 1."),
-			TEXT("No PNG can be made of 1 pixels for a picture of 2 x 1.") }));
+			TEXT("No PNG can be made of 1 pixels for a picture of 2 x 1.")}));
 }

@@ -4,23 +4,12 @@
 #include "UObject/DisplayNames.h"
 #include "UObject/UnrealType.h"
 
-FFieldClass::FFieldClass(const TCHAR* InName, EClassCastFlags InId, FFieldClass* InSuper, FConstructFn InConstructFn)
+FFieldClass::FFieldClass(const TCHAR* InName, EClassCastFlags InId, FFieldClass* InSuper)
 	: Name(InName)
 	, Id(InId)
 	, CastFlags(InSuper ? InId | InSuper->CastFlags : InId)
 	, SuperClass(InSuper)
-	, ConstructFn(InConstructFn)
 {
-}
-
-FField* FFieldClass::Construct(const FFieldVariant& Owner, const FName& InName, EObjectFlags Flags) const
-{
-	return ConstructFn ? ConstructFn(Owner, InName, Flags) : nullptr;
-}
-
-FString FFieldVariant::GetName() const
-{
-	return Object ? Object->GetName() : Field ? Field->GetName() : FString(TEXT("None"));
 }
 
 FString FFieldVariant::GetPathName() const
@@ -30,7 +19,7 @@ FString FFieldVariant::GetPathName() const
 
 FFieldClass* FField::StaticClass()
 {
-	static FFieldClass Class(TEXT("Field"), CASTCLASS_None, nullptr, nullptr);
+	static FFieldClass Class(TEXT("Field"), CASTCLASS_None, nullptr);
 	return &Class;
 }
 

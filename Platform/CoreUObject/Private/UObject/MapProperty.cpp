@@ -142,7 +142,7 @@ uint32 FMapProperty::HashValue(const void* Src) const
 bool FMapProperty::IsSameTypeAs(const FProperty& Other) const
 {
 	const FMapProperty& OtherMap = static_cast<const FMapProperty&>(Other);
-	return KeyProp->SameType(OtherMap.KeyProp) && ValueProp->SameType(OtherMap.ValueProp);
+	return IsNative() == OtherMap.IsNative() && KeyProp->SameType(OtherMap.KeyProp) && ValueProp->SameType(OtherMap.ValueProp);
 }
 
 const TCHAR* FMapProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const

@@ -65,7 +65,6 @@ bool ParseNumber(const FString& Word, T& OutValue)
 
 FString FNumericProperty::GetNumericPropertyValueToString(const void* Data) const
 {
-	FString Text;
 	if (IsFloatingPoint())
 	{
 		return FString::Printf(TEXT("%f"), GetFloatingPointPropertyValue(Data));

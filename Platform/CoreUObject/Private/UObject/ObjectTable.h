@@ -50,7 +50,6 @@ public:
 	/** For types that are made before the class of classes or their package is known. */
 	void SetClassAndOuter(UObject& Object, UClass* Class, UObject* Outer);
 	void SetNameAndOuter(UObject& Object, FName Name, UObject* Outer);
-	void SetFlags(UObjectBase& Object, EObjectFlags Flags) { Object.ObjectFlags = Flags; }
 
 	FObjectItem& ItemOf(const UObjectBase* Object) { return Items[Object->InternalIndex]; }
 	TArray<FObjectItem>& GetItems() { return Items; }

@@ -1,7 +1,5 @@
 #include "UObject/ParameterDefaults.h"
 
-#include "Misc/DefaultValueHelper.h"
-
 namespace
 {
 /** FVector and FRotator: their members in order, as bare numbers. */

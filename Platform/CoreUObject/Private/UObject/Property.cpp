@@ -7,24 +7,16 @@ FProperty::FProperty(FFieldClass* InClass, FFieldVariant InOwner, const FName& I
 {
 }
 
-#define IMPLEMENT_ABSTRACT_FIELD(TClass) \
-	FFieldClass* TClass::StaticClass() \
-	{ \
-		static FFieldClass Class(&TEXT(#TClass)[1], StaticClassCastFlagsPrivate(), Super::StaticClass(), nullptr); \
-		return &Class; \
-	}
-
 #define IMPLEMENT_FIELD(TClass) \
 	FFieldClass* TClass::StaticClass() \
 	{ \
-		static FFieldClass Class(&TEXT(#TClass)[1], StaticClassCastFlagsPrivate(), Super::StaticClass(), \
-			[](const FFieldVariant& Owner, const FName& Name, EObjectFlags Flags) -> FField* { return new TClass(Owner, Name, Flags); }); \
+		static FFieldClass Class(&TEXT(#TClass)[1], StaticClassCastFlagsPrivate(), Super::StaticClass()); \
 		return &Class; \
 	}
 
-IMPLEMENT_ABSTRACT_FIELD(FProperty)
-IMPLEMENT_ABSTRACT_FIELD(FNumericProperty)
-IMPLEMENT_ABSTRACT_FIELD(FObjectPropertyBase)
+IMPLEMENT_FIELD(FProperty)
+IMPLEMENT_FIELD(FNumericProperty)
+IMPLEMENT_FIELD(FObjectPropertyBase)
 IMPLEMENT_FIELD(FInt8Property)
 IMPLEMENT_FIELD(FInt16Property)
 IMPLEMENT_FIELD(FIntProperty)

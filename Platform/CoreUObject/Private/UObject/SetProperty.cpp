@@ -125,7 +125,8 @@ uint32 FSetProperty::HashValue(const void* Src) const
 
 bool FSetProperty::IsSameTypeAs(const FProperty& Other) const
 {
-	return ElementProp->SameType(static_cast<const FSetProperty&>(Other).ElementProp);
+	const FSetProperty& OtherSet = static_cast<const FSetProperty&>(Other);
+	return IsNative() == OtherSet.IsNative() && ElementProp->SameType(OtherSet.ElementProp);
 }
 
 const TCHAR* FSetProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const

@@ -155,22 +155,6 @@ void UStruct::DestroyStruct(void* Dest, int32 ArrayDim) const
 	}
 }
 
-bool UStruct::GetStringMetaDataHierarchical(const FName& Key, FString* OutValue) const
-{
-	for (const UStruct* Struct = this; Struct; Struct = Struct->GetSuperStruct())
-	{
-		if (const FString* const Value = Struct->FindMetaData(Key))
-		{
-			if (OutValue)
-			{
-				*OutValue = *Value;
-			}
-			return true;
-		}
-	}
-	return false;
-}
-
 bool UStruct::GetBoolMetaDataHierarchical(const FName& Key) const
 {
 	const UStruct* Struct = this;

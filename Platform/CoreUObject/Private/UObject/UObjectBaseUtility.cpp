@@ -53,11 +53,6 @@ bool UObjectBaseUtility::IsIn(const UObject* SomeOuter) const
 	return false;
 }
 
-bool UObjectBaseUtility::IsInPackage(const UPackage* SomePackage) const
-{
-	return static_cast<const UObjectBaseUtility*>(SomePackage) != this && GetOutermost() == SomePackage;
-}
-
 bool UObjectBaseUtility::IsA(const UClass* SomeBase) const
 {
 	return GetClass()->IsChildOf(SomeBase);

@@ -153,8 +153,7 @@ public:
 	virtual void InitializeStruct(void* Dest, int32 ArrayDim = 1) const;
 	virtual void DestroyStruct(void* Dest, int32 ArrayDim = 1) const;
 
-	/** Value of a metadata key of this or the nearest parent that has it. */
-	bool GetStringMetaDataHierarchical(const FName& Key, FString* OutValue = nullptr) const;
+	/** Reads a metadata key of this or the nearest parent that has it. */
 	bool GetBoolMetaDataHierarchical(const FName& Key) const;
 
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector);
@@ -266,7 +265,6 @@ public:
 
 	bool HasAnyClassFlags(EClassFlags FlagsToCheck) const { return (ClassFlags & FlagsToCheck) != CLASS_None; }
 	bool HasAllClassFlags(EClassFlags FlagsToCheck) const { return (ClassFlags & FlagsToCheck) == FlagsToCheck; }
-	EClassFlags GetClassFlags() const { return ClassFlags; }
 	bool HasAnyCastFlag(EClassCastFlags FlagToCheck) const { return (ClassCastFlags & FlagToCheck) != CASTCLASS_None; }
 	UClass* GetSuperClass() const { return static_cast<UClass*>(SuperStruct); }
 	void SetSuperStruct(UStruct* NewSuperStruct) override;
@@ -286,7 +284,6 @@ public:
 	/** Adds a function whose outer is the class. */
 	void AddFunctionToFunctionMap(UFunction* Function, FName FunctionName);
 	void RemoveFunctionFromFunctionMap(UFunction* Function);
-	void GenerateFunctionList(TArray<FName>& OutArray) const { FuncMap.GenerateKeyArray(OutArray); }
 
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector);
 	void FinishDestroy() override;

@@ -14,9 +14,7 @@ class UStruct;
 class COREUOBJECT_API FFieldClass
 {
 public:
-	using FConstructFn = FField* (*)(const class FFieldVariant& Owner, const FName& Name, EObjectFlags Flags);
-
-	FFieldClass(const TCHAR* Name, EClassCastFlags Id, FFieldClass* Super, FConstructFn ConstructFn);
+	FFieldClass(const TCHAR* Name, EClassCastFlags Id, FFieldClass* Super);
 
 	FString GetName() const { return Name.ToString(); }
 	FName GetFName() const { return Name; }
@@ -26,15 +24,12 @@ public:
 	bool HasAllCastFlags(EClassCastFlags InCastFlags) const { return (CastFlags & InCastFlags) == InCastFlags; }
 	bool IsChildOf(const FFieldClass* Other) const { return HasAllCastFlags(Other->Id); }
 	FFieldClass* GetSuperClass() const { return SuperClass; }
-	/** Null for the classes that only others derive from. */
-	FField* Construct(const FFieldVariant& Owner, const FName& InName, EObjectFlags Flags = RF_NoFlags) const;
 
 private:
 	FName Name;
 	EClassCastFlags Id;
 	EClassCastFlags CastFlags;
 	FFieldClass* SuperClass;
-	FConstructFn ConstructFn;
 };
 
 /** The owner of a field: an object (a structure, a class, a function) or another field (a container). */
@@ -50,7 +45,6 @@ public:
 	bool IsValid() const { return Object || Field; }
 	UObject* ToUObject() const { return Object; }
 	FField* ToField() const { return Field; }
-	FString GetName() const;
 	FString GetPathName() const;
 
 private:
@@ -74,8 +68,6 @@ public:
 	bool GetBoolMetaData(const FName& Key) const;
 	void SetMetaData(const TCHAR* Key, const TCHAR* Value) { MetaDataMap.Add(FName(Key), FString(Value)); }
 	void SetMetaData(const FName& Key, const TCHAR* Value) { MetaDataMap.Add(Key, FString(Value)); }
-	void RemoveMetaData(const TCHAR* Key) { MetaDataMap.Remove(FName(Key)); }
-	const TMap<FName, FString>* GetMetaDataMap() const { return &MetaDataMap; }
 
 private:
 	TMap<FName, FString> MetaDataMap;

@@ -173,12 +173,6 @@ enum EPropertyFlags : uint64
 };
 ENUM_CLASS_FLAGS(EPropertyFlags)
 
-/** First part of an object's construction that only the object system itself may ask for. */
-enum EInternal
-{
-	EC_InternalUseOnlyConstructor
-};
-
 // What the header tool reads. The compiler sees nothing of it but the bodies, which the tool wrote into <Header>.generated.h.
 #define UPROPERTY(...)
 #define UFUNCTION(...)

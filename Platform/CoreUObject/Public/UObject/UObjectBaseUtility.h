@@ -30,7 +30,6 @@ public:
 		return static_cast<T*>(GetTypedOuter(T::StaticClass()));
 	}
 	bool IsIn(const UObject* SomeOuter) const;
-	bool IsInPackage(const UPackage* SomePackage) const;
 
 	bool IsA(const UClass* SomeBase) const;
 	template <typename T>

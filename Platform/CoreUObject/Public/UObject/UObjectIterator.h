@@ -46,8 +46,6 @@ private:
 	T* Object = nullptr;
 };
 
-using FObjectIterator = TObjectIterator<UObject>;
-
 template <class T>
 class TObjectRange
 {

@@ -37,10 +37,8 @@ class COREUOBJECT_API FProperty : public FField
 
 	EPropertyFlags GetPropertyFlags() const { return PropertyFlags; }
 	void SetPropertyFlags(EPropertyFlags NewFlags) { PropertyFlags |= NewFlags; }
-	void ClearPropertyFlags(EPropertyFlags Flags) { PropertyFlags &= ~Flags; }
 	bool HasAnyPropertyFlags(EPropertyFlags FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) != CPF_None; }
 	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) != 0; }
-	bool HasAllPropertyFlags(EPropertyFlags FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) == FlagsToCheck; }
 
 	template <typename ValueType>
 	ValueType* ContainerPtrToValuePtr(void* ContainerPtr, int32 ArrayIndex = 0) const
@@ -550,6 +548,8 @@ class COREUOBJECT_API FSetProperty final : public FProperty
 	void AddCppProperty(FProperty* Property);
 	void SetOps(const FSetOps& InOps);
 	const FSetOps& GetOps() const { return *Ops; }
+	/** Whether values are a TSet of C++. Native and made values are of different types and never copied into each other. */
+	bool IsNative() const { return Ops != OwnOps.Get(); }
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
@@ -587,6 +587,8 @@ class COREUOBJECT_API FMapProperty final : public FProperty
 	void AddCppProperty(FProperty* Property);
 	void SetOps(const FMapOps& InOps);
 	const FMapOps& GetOps() const { return *Ops; }
+	/** Whether values are a TMap of C++. Native and made values are of different types and never copied into each other. */
+	bool IsNative() const { return Ops != OwnOps.Get(); }
 	FProperty* GetKeyProperty() const { return KeyProp; }
 	FProperty* GetValueProperty() const { return ValueProp; }
 
@@ -611,300 +613,7 @@ private:
 	TUniquePtr<FMapOps> OwnOps;
 };
 
-/** One array value, seen through its property. */
-class FScriptArrayHelper
-{
-public:
-	FScriptArrayHelper(const FArrayProperty* InProperty, const void* InArray)
-		: Ops(InProperty->GetOps())
-		, ElementSize(InProperty->Inner->ElementSize)
-		, Array(const_cast<void*>(InArray))
-	{
-	}
-	static FScriptArrayHelper CreateHelper(const FArrayProperty* InProperty, const void* InArray) { return {InProperty, InArray}; }
-
-	int32 Num() const { return Ops.Num(Array); }
-	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Num(); }
-	uint8* GetRawPtr(int32 Index = 0) const
-	{
-		return Num() ? static_cast<uint8*>(Ops.GetData(Array)) + SIZE_T(ElementSize) * Index : nullptr;
-	}
-	/** @return The index of the first new element. */
-	int32 AddValues(int32 Count)
-	{
-		const int32 OldNum = Num();
-		Ops.Insert(Array, OldNum, Count);
-		return OldNum;
-	}
-	int32 AddValue() { return AddValues(1); }
-	void InsertValues(int32 Index, int32 Count = 1) { Ops.Insert(Array, Index, Count); }
-	void RemoveValues(int32 Index, int32 Count = 1) { Ops.RemoveAt(Array, Index, Count); }
-	void EmptyValues(int32 Slack = 0) { Ops.Empty(Array, Slack); }
-	void EmptyAndAddValues(int32 Count)
-	{
-		EmptyValues(Count);
-		AddValues(Count);
-	}
-	void Resize(int32 Count)
-	{
-		const int32 OldNum = Num();
-		Count > OldNum ? Ops.Insert(Array, OldNum, Count - OldNum) : Ops.RemoveAt(Array, Count, OldNum - Count);
-	}
-	void SwapValues(int32 A, int32 B) { FMemory::Memswap(GetRawPtr(A), GetRawPtr(B), SIZE_T(A == B ? 0 : ElementSize)); }
-
-private:
-	const FArrayOps& Ops;
-	int32 ElementSize;
-	void* Array;
-};
-
-/** One set value, seen through its property. Indices run to GetMaxIndex() and may have holes. */
-class FScriptSetHelper
-{
-public:
-	FScriptSetHelper(const FSetProperty* InProperty, const void* InSet)
-		: Ops(InProperty->GetOps())
-		, Set(const_cast<void*>(InSet))
-	{
-	}
-
-	int32 Num() const { return Ops.Num(Set); }
-	int32 GetMaxIndex() const { return Ops.GetMaxIndex(Set); }
-	bool IsValidIndex(int32 Index) const { return Ops.IsValidIndex(Set, Index); }
-	uint8* GetElementPtr(int32 Index) const { return static_cast<uint8*>(Ops.GetElement(Set, Index)); }
-	/** INDEX_NONE if it is not there. */
-	int32 FindElementIndex(const void* ElementToFind) const { return Ops.FindIndex(Set, ElementToFind); }
-	void AddElement(const void* ElementToAdd) { Ops.Add(Set, ElementToAdd); }
-	bool RemoveElement(const void* ElementToRemove)
-	{
-		const int32 Index = FindElementIndex(ElementToRemove);
-		if (Index != INDEX_NONE)
-		{
-			RemoveAt(Index);
-		}
-		return Index != INDEX_NONE;
-	}
-	void RemoveAt(int32 Index) { Ops.RemoveAt(Set, Index); }
-	void EmptyElements(int32 Slack = 0) { Ops.Empty(Set, Slack); }
-
-private:
-	const FSetOps& Ops;
-	void* Set;
-};
-
-/** One map value, seen through its property. Indices run to GetMaxIndex() and may have holes. */
-class FScriptMapHelper
-{
-public:
-	FScriptMapHelper(const FMapProperty* InProperty, const void* InMap)
-		: Ops(InProperty->GetOps())
-		, Map(const_cast<void*>(InMap))
-	{
-	}
-
-	int32 Num() const { return Ops.Num(Map); }
-	int32 GetMaxIndex() const { return Ops.GetMaxIndex(Map); }
-	bool IsValidIndex(int32 Index) const { return Ops.IsValidIndex(Map, Index); }
-	uint8* GetKeyPtr(int32 Index) const { return static_cast<uint8*>(Ops.GetKey(Map, Index)); }
-	uint8* GetValuePtr(int32 Index) const { return static_cast<uint8*>(Ops.GetValue(Map, Index)); }
-	/** INDEX_NONE if it is not there. */
-	int32 FindMapIndexWithKey(const void* KeyPtr) const { return Ops.FindIndex(Map, KeyPtr); }
-	/** Null if the key is not there. */
-	uint8* FindValueFromHash(const void* KeyPtr) const
-	{
-		const int32 Index = FindMapIndexWithKey(KeyPtr);
-		return Index != INDEX_NONE ? GetValuePtr(Index) : nullptr;
-	}
-	/** Replaces the value of a key that is there. */
-	void AddPair(const void* KeyPtr, const void* ValuePtr) { Ops.Add(Map, KeyPtr, ValuePtr); }
-	bool RemovePair(const void* KeyPtr)
-	{
-		const int32 Index = FindMapIndexWithKey(KeyPtr);
-		if (Index != INDEX_NONE)
-		{
-			RemoveAt(Index);
-		}
-		return Index != INDEX_NONE;
-	}
-	void RemoveAt(int32 Index) { Ops.RemoveAt(Map, Index); }
-	void EmptyValues(int32 Slack = 0) { Ops.Empty(Map, Slack); }
-
-private:
-	const FMapOps& Ops;
-	void* Map;
-};
-
-namespace EPropertyChangeType
-{
-using Type = uint32;
-constexpr Type Unspecified = 1 << 0;
-constexpr Type ArrayAdd = 1 << 1;
-constexpr Type ArrayRemove = 1 << 2;
-constexpr Type ArrayClear = 1 << 3;
-constexpr Type ValueSet = 1 << 4;
-constexpr Type Duplicate = 1 << 5;
-constexpr Type Interactive = 1 << 6;
-constexpr Type Redirected = 1 << 7;
-}
-
-/** What changed. Property may be null: then anything may have. */
-struct FPropertyChangedEvent
-{
-	explicit FPropertyChangedEvent(FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified)
-		: Property(InProperty)
-		, MemberProperty(InProperty)
-		, ChangeType(InChangeType)
-	{
-	}
-
-	FName GetPropertyName() const { return Property ? Property->GetFName() : FName(); }
-
-	FProperty* Property;
-	/** The member of the object that Property lies in. */
-	FProperty* MemberProperty;
-	EPropertyChangeType::Type ChangeType;
-};
-
-namespace EFieldIteratorFlags
-{
-enum SuperClassFlags
-{
-	ExcludeSuper,
-	IncludeSuper,
-};
-
-enum DeprecatedPropertyFlags
-{
-	ExcludeDeprecated,
-	IncludeDeprecated,
-};
-
-enum InterfaceClassFlags
-{
-	ExcludeInterfaces,
-	IncludeInterfaces,
-};
-}
-
-/** The functions or properties of a structure: its own in declared order, then its parent's, and so up. */
-template <class T>
-class TFieldIterator
-{
-	static constexpr bool bOfProperties = std::is_base_of_v<FField, T>;
-	using FBaseField = std::conditional_t<bOfProperties, FField, UField>;
-
-public:
-	explicit TFieldIterator(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper,
-		EFieldIteratorFlags::DeprecatedPropertyFlags InDeprecatedFlags = EFieldIteratorFlags::IncludeDeprecated,
-		EFieldIteratorFlags::InterfaceClassFlags InInterfaceFlags = EFieldIteratorFlags::ExcludeInterfaces)
-		: Struct(InStruct)
-		, Field(InStruct ? First(InStruct) : nullptr)
-		, bIncludeSuper(InSuperClassFlags == EFieldIteratorFlags::IncludeSuper)
-		, bIncludeDeprecated(InDeprecatedFlags == EFieldIteratorFlags::IncludeDeprecated)
-	{
-		FindNext();
-	}
-
-	explicit operator bool() const { return Field != nullptr; }
-	void operator++()
-	{
-		Field = Field->Next;
-		FindNext();
-	}
-	T* operator*() const { return static_cast<T*>(Field); }
-	T* operator->() const { return static_cast<T*>(Field); }
-	const UStruct* GetStruct() const { return Struct; }
-	bool operator==(const TFieldIterator& Other) const { return Field == Other.Field; }
-	bool operator!=(const TFieldIterator& Other) const { return Field != Other.Field; }
-
-private:
-	static FBaseField* First(const UStruct* InStruct)
-	{
-		if constexpr (bOfProperties)
-		{
-			return InStruct->ChildProperties;
-		}
-		else
-		{
-			return InStruct->Children;
-		}
-	}
-
-	bool Wants(FBaseField* Candidate) const
-	{
-		if constexpr (bOfProperties)
-		{
-			return Candidate->template IsA<T>()
-				   && (bIncludeDeprecated || !Candidate->template IsA<FProperty>()
-					   || !static_cast<FProperty*>(Candidate)->HasAnyPropertyFlags(CPF_Deprecated));
-		}
-		else
-		{
-			return Candidate->template IsA<T>();
-		}
-	}
-
-	void FindNext()
-	{
-		while (Struct)
-		{
-			while (Field && !Wants(Field))
-			{
-				Field = Field->Next;
-			}
-			if (Field || !bIncludeSuper)
-			{
-				return;
-			}
-			Struct = Struct->GetSuperStruct();
-			Field = Struct ? First(Struct) : nullptr;
-		}
-	}
-
-	const UStruct* Struct;
-	FBaseField* Field;
-	bool bIncludeSuper;
-	bool bIncludeDeprecated;
-};
-
-template <typename T>
-class TFieldRange
-{
-public:
-	explicit TFieldRange(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper)
-		: Begin(InStruct, InSuperClassFlags)
-	{
-	}
-	TFieldIterator<T> begin() const { return Begin; }
-	TFieldIterator<T> end() const { return TFieldIterator<T>(nullptr); }
-
-private:
-	TFieldIterator<T> Begin;
-};
-
-/** The property of that name and kind of the structure or its parents; null if there is none. */
-template <class T>
-T* FindFProperty(const UStruct* Owner, FName FieldName)
-{
-	return Owner ? CastField<T>(Owner->FindPropertyByName(FieldName)) : nullptr;
-}
-
-template <class T>
-T* FindFProperty(const UStruct* Owner, const TCHAR* FieldName)
-{
-	return FindFProperty<T>(Owner, FName(FieldName));
-}
-
-/** The function of that name, of the structure or its parents; null if there is none. */
-template <class T>
-T* FindUField(const UStruct* Owner, FName FieldName)
-{
-	for (TFieldIterator<T> It(Owner); It; ++It)
-	{
-		if (It->GetFName() == FieldName)
-		{
-			return *It;
-		}
-	}
-	return nullptr;
-}
+// The rest of what goes under this name.
+#include "UObject/FieldIterator.h"
+#include "UObject/PropertyChangedEvent.h"
+#include "UObject/ScriptContainerHelpers.h"

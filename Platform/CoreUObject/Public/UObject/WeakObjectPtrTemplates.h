@@ -28,7 +28,6 @@ struct TWeakObjectPtr : private TWeakObjectPtrBase
 
 	T* Get() const { return static_cast<T*>(TWeakObjectPtrBase::Get()); }
 	T* Get(bool bEvenIfPendingKill) const { return static_cast<T*>(TWeakObjectPtrBase::Get(bEvenIfPendingKill)); }
-	T* GetEvenIfUnreachable() const { return Get(true); }
 	T& operator*() const { return *Get(); }
 	T* operator->() const
 	{

@@ -332,6 +332,19 @@ TEST(ScriptMapHelper, EditsTheRealMap)
 	EXPECT_EQ(Helper.FindValueFromHash(&Key), nullptr);
 }
 
+TEST(DynamicContainers, AreOfTheTypeOfNativeOnesOnlyWhereTheyLookAlikeInMemory)
+{
+	FArrayProperty Array(nullptr, TEXT("Array"));
+	Array.AddCppProperty(new FIntProperty(&Array, TEXT("Inner")));
+	FSetProperty Set(nullptr, TEXT("Set"));
+	Set.AddCppProperty(new FNameProperty(&Set, TEXT("Element")));
+
+	EXPECT_TRUE(Array.SameType(Find(TEXT("Numbers"))));
+	EXPECT_FALSE(Set.SameType(Find(TEXT("Names"))));
+	EXPECT_TRUE(Find(TEXT("Names"))->SameType(Find(TEXT("Names"))));
+	EXPECT_FALSE(Find(TEXT("Objects"))->SameType(Find(TEXT("Numbers"))));
+}
+
 TEST(DynamicContainers, SetsAndMapsMadeByHandWorkThroughTheirHelpers)
 {
 	FMapProperty Map(nullptr, TEXT("Map"));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "ParsedHeader.h"
 #include "Specifiers.h"
 
 TEST(ToolTip, LosesTheSignsOfTheComment)
@@ -32,4 +33,17 @@ TEST(Specifiers, ReportTheFirstThatIsUnknown)
 	const FSpecifier* const Unknown = ApplySpecifiers(ESpecifierTarget::Function, Specifiers, Flags, MetaData);
 	ASSERT_NE(Unknown, nullptr);
 	EXPECT_EQ(Unknown->Key, "Nonsense");
+}
+
+TEST(Specifiers, TakeListsUnquotedTextsAndLiteralsInARow)
+{
+	const FParsedHeader Parsed("#include \"Thing.generated.h\"\nUCLASS(HideCategories = (Physics, \"Old Stuff\"), meta = (Words = \"one \" \"two\", Bare = A|B, Alone))\n"
+							   "class UThing : public UObject\n{\nGENERATED_BODY()\n};\n");
+	ASSERT_EQ(Parsed.Errors, std::vector<std::string>());
+	const FMetaData& MetaData = Parsed.Header().Classes[0].MetaData;
+	EXPECT_EQ(*FindMetaData(MetaData, "HideCategories"), "Physics Old Stuff");
+	EXPECT_EQ(*FindMetaData(MetaData, "Words"), "one two");
+	EXPECT_EQ(*FindMetaData(MetaData, "Bare"), "A|B");
+	EXPECT_EQ(*FindMetaData(MetaData, "alone"), "");
+	EXPECT_EQ(FindMetaData(MetaData, "Absent"), nullptr);
 }
