@@ -8,8 +8,8 @@
 class SDockTab;
 
 /**
- * The plugin, started in a project of its own, with a window in which its tabs open and an interpreter that only notes its commands. All
- * tools close with it.
+ * The plugin, started in a project of its own, with a window in which its tabs open and an interpreter that only notes its
+ * commands. All tools close with it.
  */
 class FRunningPlugin
 {

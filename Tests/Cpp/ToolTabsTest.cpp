@@ -60,7 +60,8 @@ TEST(ToolTabs, TabShowsTheToolUnderItsLabel)
 TEST(ToolTabs, RegistrationKeepsTheFirstLabelAndSaysSoOnce)
 {
 	FRunningPlugin Plugin;
-	const FString Path = Plugin.WriteTool(TEXT("A.json"), R"({ "TabLabel": "First", "Root": { "SBox": {} }, "InitTabSize": [8, 6] })");
+	const FString Path =
+		Plugin.WriteTool(TEXT("A.json"), R"({ "TabLabel": "First", "Root": { "SBox": {} }, "InitTabSize": [8, 6] })");
 	FName TabId;
 	FVector2D Size;
 	FVector2D Position;
@@ -89,8 +90,8 @@ TEST(ToolTabs, DataPathThatNamesNoPackageIsAnErrorAndTheToolOpensAllTheSame)
 	EXPECT_TRUE(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")));
 
 	EXPECT_EQ(Log.Errors(),
-		FLines({TEXT("Json File can't find: VelmoraData, Default data used. @ /Game/None"), TEXT("Get VelmoraDataPath failed /Game/None"),
-			TEXT("Json File can't find: InitPyCmd  ") + Path}));
+		FLines({TEXT("Json File can't find: VelmoraData, Default data used. @ /Game/None"),
+			TEXT("Get VelmoraDataPath failed /Game/None"), TEXT("Json File can't find: InitPyCmd  ") + Path}));
 	EXPECT_EQ(FKestrixModule::Get().GetToolsDataInstanceByName(Path)->GetClass(), UVelmoraData::StaticClass());
 }
 
@@ -147,8 +148,8 @@ TEST(ToolTabs, MapCommandIsRecordedByShortPathAndStaysWhenTheToolCloses)
 
 	ASSERT_EQ(MapChangeCommands.Num(), 1);
 	EXPECT_EQ(MapChangeCommands.FindRef(TEXT("T/A.json")), FString(TEXT("map(%world)")));
-	EXPECT_TRUE(Log.Lines().Contains(
-		Line(TEXT("Log"), TEXT("InitPytool's OnMapChangeCommand, ShortName: T/A.json, cmd: map(%world)"))));
+	EXPECT_TRUE(
+		Log.Lines().Contains(Line(TEXT("Log"), TEXT("InitPytool's OnMapChangeCommand, ShortName: T/A.json, cmd: map(%world)"))));
 }
 
 TEST(ToolTabs, ToolOpenedAgainOverwritesItsMapCommandAndLeavesItWithoutAnother)

@@ -63,7 +63,8 @@ TEST(ToolsSettings, ProjectAndPluginWithoutDefaultsGetTheKeysAndAWarning)
 	InitSettings();
 
 	EXPECT_EQ(Log.Lines(),
-		FLines({TEXT("PythonKX: Warning: Can't find Plugin config: ") + Project.GetDir() + TEXT("/Plugins//Kestrix/Config/Plugin_Config.ini "),
+		FLines({TEXT("PythonKX: Warning: Can't find Plugin config: ") + Project.GetDir() +
+				TEXT("/Plugins//Kestrix/Config/Plugin_Config.ini "),
 			TEXT("PythonKX: Warning: Can't find DefaultPythonSourcePath @: ") + Project.GetDir() +
 				TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX"),
 			TEXT("PythonKX: Warning: ") + MissingMenuFile(Project)}));

@@ -14,8 +14,8 @@ IMPLEMENT_MODULE(FKestrixModule, Kestrix)
 
 namespace
 {
-// The settings look the first up by name; the others tell the sketch tab, in seconds, how often to look at its file and how long to wait
-// before it opens again.
+// The settings look the first up by name; the others tell the sketch tab, in seconds, how often to look at its file and how
+// long to wait before it opens again.
 TAutoConsoleVariable<int32> OverrideEnabled(TEXT("Kestrix.OverrideEnabled"), -1, TEXT("Kestrix.OverrideEnabled"));
 TAutoConsoleVariable<float> SketchTabCheckInterval(
 	TEXT("Kestrix.SketchTabCheckInterval"), 1.0f, TEXT("Kestrix.SketchTabCheckInterval"));
@@ -26,11 +26,7 @@ const FName ToolsTabId("PythonToolsTab");
 
 TSharedRef<SDockTab> SpawnToolsTab(const FSpawnTabArgs& Args)
 {
-	return SNew(SDockTab)
-		.TabRole(ETabRole::NomadTab)
-		[
-			SNew(SToolsCompoundWidget)
-		];
+	return SNew(SDockTab).TabRole(ETabRole::NomadTab)[SNew(SToolsCompoundWidget)];
 }
 }
 

@@ -63,8 +63,8 @@ public:
 	 * @param OutTabId     Set on success, as are the others.
 	 * @param OutSize      Size that the description asks for; negative without one.
 	 * @param OutPosition  Likewise.
-	 * @return False if the description cannot be parsed; but a tool whose file breaks after its registration stays registered, so that
-	 *         its tab can show the reason.
+	 * @return False if the description cannot be parsed. A tool whose file breaks after its registration stays registered, so
+	 *         that its tab can show the reason.
 	 */
 	bool RegisterToolTab(const FString& JsonPath, FName& OutTabId, FVector2D& OutSize, FVector2D& OutPosition);
 

@@ -10,6 +10,7 @@
 
 void SToolsCompoundWidget::Construct(const FArguments& InArgs)
 {
+	// clang-format off
 	ChildSlot
 	[
 		SNew(SBorder)
@@ -30,6 +31,7 @@ void SToolsCompoundWidget::Construct(const FArguments& InArgs)
 			]
 		]
 	];
+	// clang-format on
 }
 
 #undef LOCTEXT_NAMESPACE

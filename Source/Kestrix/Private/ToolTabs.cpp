@@ -72,17 +72,11 @@ bool IsSameTool(FName A, FName B)
 void OpenToolInNewWindow(FName TabId, const FVector2D& Size, const FVector2D& Position, FName LayoutName)
 {
 	const TSharedRef<FGlobalTabmanager> TabManager = FGlobalTabmanager::Get();
-	const TSharedRef<FTabManager::FLayout> Layout = FTabManager::NewLayout(LayoutName)
-		->AddArea
-		(
-			FTabManager::NewArea(Size)
-			->SetWindow(Position, false)
-			->Split
-			(
-				FTabManager::NewStack()
-				->AddTab(TabId, ETabState::OpenedTab)
-			)
-		);
+	const TSharedRef<FTabManager::FLayout> Layout =
+		FTabManager::NewLayout(LayoutName)
+			->AddArea(FTabManager::NewArea(Size)
+						  ->SetWindow(Position, false)
+						  ->Split(FTabManager::NewStack()->AddTab(TabId, ETabState::OpenedTab)));
 	TabManager->RestoreFrom(Layout, TabManager->GetRootWindow(), true, EOutputCanBeNullptr::Never);
 	if (const TSharedPtr<SDockTab> Tab = TabManager->FindExistingLiveTab(FTabId(TabId)))
 	{
@@ -130,16 +124,11 @@ bool FKestrixModule::RegisterToolTab(const FString& JsonPath, FName& OutTabId, F
 
 TSharedRef<SDockTab> FKestrixModule::SpawnToolTab(const FSpawnTabArgs& Args, FString JsonPath, FString DataPath)
 {
-	const TSharedRef<SVelmoraWidget> Tool = SNew(SVelmoraWidget)
-		.JsonPath(JsonPath)
-		.DataObj(GetToolsDataInstance(JsonPath, DataPath));
+	const TSharedRef<SVelmoraWidget> Tool =
+		SNew(SVelmoraWidget).JsonPath(JsonPath).DataObj(GetToolsDataInstance(JsonPath, DataPath));
 
-	const TSharedRef<SDockTab> Tab = SNew(SDockTab)
-		.TabRole(ETabRole::NomadTab)
-		.OnTabClosed_Static(&OnToolTabClosed, JsonPath)
-		[
-			Tool
-		];
+	const TSharedRef<SDockTab> Tab =
+		SNew(SDockTab).TabRole(ETabRole::NomadTab).OnTabClosed_Static(&OnToolTabClosed, JsonPath)[Tool];
 	InitPyTool(JsonPath);
 	OpenToolTabs.AddUnique(Tab);
 	return Tab;
@@ -165,9 +154,8 @@ void FKestrixModule::InitPyTool(const FString& JsonPath)
 
 bool FKestrixModule::RemoveOpenToolTab(FName TabId)
 {
-	const int32 Index = OpenToolTabs.IndexOfByPredicate([TabId](const TSharedPtr<SDockTab>& Tab) {
-		return Tab.IsValid() && FName(*Tab->GetLayoutIdentifier().ToString()) == TabId;
-	});
+	const int32 Index = OpenToolTabs.IndexOfByPredicate([TabId](const TSharedPtr<SDockTab>& Tab)
+		{ return Tab.IsValid() && FName(*Tab->GetLayoutIdentifier().ToString()) == TabId; });
 	if (Index == INDEX_NONE)
 	{
 		return false;

@@ -27,10 +27,8 @@ bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, 
 	const TSharedPtr<SWidget> FocusedWidget = Application.GetKeyboardFocusedWidget();
 	const TSharedPtr<SWindow> ActiveWindow = Application.GetActiveTopLevelWindow();
 
-	const TSharedRef<SWindow> Window = SNew(SWindow)
-		.ClientSize(Size)
-		.AutoCenter(EAutoCenter::None)
-		.ScreenPosition(FVector2D::ZeroVector);
+	const TSharedRef<SWindow> Window =
+		SNew(SWindow).ClientSize(Size).AutoCenter(EAutoCenter::None).ScreenPosition(FVector2D::ZeroVector);
 	Window->SetContent(Widget.ToSharedRef());
 	Application.AddWindow(Window, /* bShowImmediately */ false);
 	Window->ShowWindow();
@@ -45,6 +43,8 @@ bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, 
 	Window->HideWindow();
 	Window->RequestDestroyWindow();
 	Widget->Invalidate(EInvalidateWidgetReason::Layout);
+
+	// The new window may have taken both when it was shown.
 	if (ActiveWindow.IsValid())
 	{
 		ActiveWindow->BringToFront();

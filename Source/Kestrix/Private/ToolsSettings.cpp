@@ -35,19 +35,19 @@ struct FSettingDefault
 };
 
 const FSettingDefault SettingDefaults[] = {
-	{ SettingsSection, TEXT("PythonContentFolder"), TEXT("/KX/Kestrix/Python") },
-	{ SettingsSection, TEXT("MenuConfigFilePath"), TEXT("/KX/Kestrix/UI/MenuConfig.json") },
-	{ SettingsSection, TEXT("VelmoraDataFolder"), TEXT("/Game/KX/VelmoraTools") },
-	{ AdvancedSection, TEXT("MainbarExtensionHookName"), TEXT("Play") },
-	{ AdvancedSection, TEXT("MenusOnToolbarEnabled"), TEXT("True") },
-	{ AdvancedSection, TEXT("SketchToolsEnabled"), TEXT("True") },
-	{ AdvancedSection, TEXT("MainMenuExtensionHookName"), TEXT("Instrumentation") },
-	{ AdvancedSection, TEXT("MaterialEditorMenuExtensionHookName"), TEXT("Instrumentation") },
-	{ AdvancedSection, TEXT("CopyInitialResource"), TEXT("True"), &FSettingsPaths::PluginConfigFile },
-	{ AdvancedSection, TEXT("LogCreateWidget"), TEXT("False") },
-	{ AdvancedSection, TEXT("LogOnTickWarnings"), TEXT("True") },
-	{ AdvancedSection, TEXT("SButtonHorizontalPadding"), TEXT("-16") },
-	{ AdvancedSection, TEXT("LogNumberLimit"), TEXT("10240") },
+	{SettingsSection, TEXT("PythonContentFolder"), TEXT("/KX/Kestrix/Python")},
+	{SettingsSection, TEXT("MenuConfigFilePath"), TEXT("/KX/Kestrix/UI/MenuConfig.json")},
+	{SettingsSection, TEXT("VelmoraDataFolder"), TEXT("/Game/KX/VelmoraTools")},
+	{AdvancedSection, TEXT("MainbarExtensionHookName"), TEXT("Play")},
+	{AdvancedSection, TEXT("MenusOnToolbarEnabled"), TEXT("True")},
+	{AdvancedSection, TEXT("SketchToolsEnabled"), TEXT("True")},
+	{AdvancedSection, TEXT("MainMenuExtensionHookName"), TEXT("Instrumentation")},
+	{AdvancedSection, TEXT("MaterialEditorMenuExtensionHookName"), TEXT("Instrumentation")},
+	{AdvancedSection, TEXT("CopyInitialResource"), TEXT("True"), &FSettingsPaths::PluginConfigFile},
+	{AdvancedSection, TEXT("LogCreateWidget"), TEXT("False")},
+	{AdvancedSection, TEXT("LogOnTickWarnings"), TEXT("True")},
+	{AdvancedSection, TEXT("SButtonHorizontalPadding"), TEXT("-16")},
+	{AdvancedSection, TEXT("LogNumberLimit"), TEXT("10240")},
 };
 
 FString ReadString(const TCHAR* Section, const TCHAR* Key)

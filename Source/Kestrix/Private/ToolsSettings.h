@@ -2,8 +2,8 @@
 
 #include "CoreMinimal.h"
 
-// The plugin's settings live in the user's project, in "KX/Kestrix/Config/Config.ini" of its folder, and are read from there at each call.
-// A string whose key is missing is empty, a number 0.
+// The plugin's settings live in the user's project, in "KX/Kestrix/Config/Config.ini" of its folder, and are read from there at
+// each call. A string whose key is missing is empty, a number 0.
 
 /** Where a project keeps what belongs to the plugin. Worked out once, when the plugin is loaded. */
 struct FSettingsPaths

@@ -1,6 +1,7 @@
 #include "Velmora/VelmoraData.h"
 
 #include "LogCapture.h"
+#include "Misc/PackageName.h"
 #include "RunningPlugin.h"
 #include "ToolTabs.h"
 #include "UObject/UObjectGlobals.h"
@@ -45,8 +46,8 @@ TEST(VelmoraData, KnownNameGetsTheLaterWidgetAndATrace)
 
 	EXPECT_EQ(Data.GetNamedWidget("Name"), Later);
 	EXPECT_EQ(Data.NamedWidgetPaths.FindRef("Name"), FString(TEXT("/SBorder")));
-	EXPECT_EQ(Log.Lines(),
-			  FLines({TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ ") + Data.GetName()}));
+	EXPECT_EQ(
+		Log.Lines(), FLines({TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ ") + Data.GetName()}));
 }
 
 TEST(VelmoraData, UnknownNameIsAWarningThatListsTheKnownOnes)
@@ -59,15 +60,15 @@ TEST(VelmoraData, UnknownNameIsAWarningThatListsTheKnownOnes)
 	Data.AddNamedWidget("B", TEXT("/SBox"), SNew(SBox));
 	EXPECT_FALSE(Data.GetNamedWidget("C").IsValid());
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: []"),
-								   TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: [A, B, ]")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: []"),
+			TEXT("PythonKX: Warning: Cant't find Widget by name: C  Availables: [A, B, ]")}));
 }
 
 TEST(VelmoraData, NameUsedTwiceInADescriptionReachesTheLaterWidget)
 {
 	FRunningPlugin Plugin;
-	UVelmoraData& Data = Plugin.Launch(
-		TEXT("A.json"),
+	UVelmoraData& Data = Plugin.Launch(TEXT("A.json"),
 		ToolWithRoot(
 			R"({ "SVerticalBox": { "Slots": [ { "SBox": { "Aka": "Twice" } }, { "SBorder": { "Aka": "Twice" } } ] } })"));
 
@@ -96,7 +97,6 @@ TEST(VelmoraData, FirstLaunchMakesARootedObjectNamedAfterTheFile)
 	EXPECT_EQ(Data.GetOuter(), GetTransientPackage());
 	EXPECT_EQ(Data.GetClass()->GetPathName(), FString(TEXT("/Script/Kestrix.VelmoraData")));
 	EXPECT_TRUE(Data.IsRooted());
-	EXPECT_TRUE(Data.HasAnyFlags(RF_MarkAsRootSet));
 	EXPECT_TRUE(Log.Lines().Contains(TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")));
 }
 
@@ -132,18 +132,22 @@ TEST(VelmoraData, ClassIsFixedAtTheFirstLaunch)
 	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), EmptyTool);
 	UVelmoraData::RequestClose(TEXT("Tool.json"));
 
-	EXPECT_EQ(&Plugin.Launch(TEXT("Tool.json"), R"({ "InitPyCmd": "", "VelmoraData": "/Game/None", "Root": { "SBox": {} } })"),
-			  &Data);
+	EXPECT_EQ(
+		&Plugin.Launch(TEXT("Tool.json"), R"({ "InitPyCmd": "", "VelmoraData": "/Game/None", "Root": { "SBox": {} } })"), &Data);
 }
 
 TEST(VelmoraData, PackageWithoutABlueprintFallsBackToThePlainClass)
 {
 	FRunningPlugin Plugin;
+	const FString Content = Plugin.Project.Path(TEXT("Content/"));
+	FPackageName::RegisterMountPoint(TEXT("/KestrixTest/"), Content);
 	Plugin.Project.Write(TEXT("Content/NoBlueprint.uasset"), TEXT("nothing"));
+	ASSERT_TRUE(FPackageName::DoesPackageExist(TEXT("/KestrixTest/NoBlueprint")));
 	const FString Path = Plugin.Project.Path(TEXT("KX/Kestrix/Python/Tool.json"));
 	const FLogCapture Log(TEXT("PythonKX"));
 
-	const UVelmoraData* const Data = FKestrixModule::Get().GetToolsDataInstance(Path, TEXT("/Game/NoBlueprint"));
+	const UVelmoraData* const Data = FKestrixModule::Get().GetToolsDataInstance(Path, TEXT("/KestrixTest/NoBlueprint"));
+	FPackageName::UnRegisterMountPoint(TEXT("/KestrixTest/"), Content);
 
 	EXPECT_EQ(Data->GetClass(), UVelmoraData::StaticClass());
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")}));

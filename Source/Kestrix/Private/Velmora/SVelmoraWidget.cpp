@@ -6,8 +6,5 @@ void SVelmoraWidget::Construct(const FArguments& InArgs)
 {
 	JsonPath = InArgs._JsonPath;
 	DataObj = InArgs._DataObj;
-	ChildSlot
-	[
-		GenerateWidgetFromFile(JsonPath, TEXT("Root"), this)
-	];
+	ChildSlot[GenerateWidgetFromFile(JsonPath, TEXT("Root"), this)];
 }

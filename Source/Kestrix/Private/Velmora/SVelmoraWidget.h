@@ -14,8 +14,8 @@ public:
 		: _DataObj(nullptr)
 	{
 	}
-		SLATE_ARGUMENT(FString, JsonPath)
-		SLATE_ARGUMENT(UVelmoraData*, DataObj)
+	SLATE_ARGUMENT(FString, JsonPath)
+	SLATE_ARGUMENT(UVelmoraData*, DataObj)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
@@ -23,6 +23,6 @@ public:
 	/** Absolute path of the tool description, which is also the tool's identity. */
 	FString JsonPath;
 
-	/** Set before the tree is made, whose widgets are recorded in it. Kept alive by the module, for as long as the editor runs. */
+	/** Set before the tree is made, whose widgets are recorded in it. Kept alive by the module for as long as the editor runs. */
 	UVelmoraData* DataObj = nullptr;
 };

@@ -9,9 +9,12 @@ class SWidget;
 /**
  * A running tool as Python sees it: reads and changes the tool's widgets by their Aka names.
  *
- * Get it with unreal.PythonBPLib.get_velmora_data(json_path). It outlives the tool's tab: a tool that is opened again has the same data
- * object, and until then calls act on widgets that no window shows. No function raises; a failure is the value that is told for it,
- * mostly with a line in the log.
+ * Get it with unreal.PythonBPLib.get_velmora_data(json_path). It outlives the tool's tab: a tool that is opened again has the
+ * same data object, and until then calls act on widgets that no window shows. No function raises; a failure is the value that
+ * is told for it, mostly with a line in the log.
+ *
+ * The object is named after the description's file, without its folder. Tools whose files have one name share one object, which
+ * the second of them empties: name files apart.
  */
 UCLASS(BlueprintType, Blueprintable)
 class UVelmoraData : public UObject
@@ -56,7 +59,7 @@ public:
 	bool GetText(FName AkaName, FString& OutText);
 
 	/**
-	 * Sets the text of a text block, an edit box or a button. A button's content is replaced by the text unless it is one already.
+	 * Sets the text of a text block, an edit box or a button. A button's content is replaced by the text unless it is a text.
 	 *
 	 * @param AkaName  Name of the widget. An unknown name draws a warning; a widget without a text is left alone.
 	 * @param Text     The new text.
@@ -106,8 +109,9 @@ public:
 	 * Shows or hides a widget.
 	 *
 	 * @param AkaName        Name of the widget.
-	 * @param VisibilityStr  "Visible", "Collapsed" (takes no room), "Hidden" (keeps its room), "HitTestInvisible" (shows, but neither it nor
-	 *                       what it holds takes the mouse) or "SelfHitTestInvisible" (only what it holds does), in any case.
+	 * @param VisibilityStr  "Visible", "Collapsed" (takes no room), "Hidden" (keeps its room), "HitTestInvisible" (shows, but
+	 *                       neither it nor what it holds takes the mouse) or "SelfHitTestInvisible" (only what it holds does),
+	 *                       in any case.
 	 * @return False if there is no widget of that name or, with an error in the log, for any other text.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
@@ -153,9 +157,9 @@ public:
 	 * Tells where a scroll box stands.
 	 *
 	 * @param AkaName  Name of the widget.
-	 * @return "Offset" and "ScrollOffsetOfEnd" in slate units from the start of the content; "ViewFraction", how much of the content is in
-	 *         view, and "ViewOffsetFraction", where the view begins, both 0 to 1. Empty, with a log line, if there is no scroll box of that
-	 *         name. The numbers are those of the last layout.
+	 * @return "Offset" and "ScrollOffsetOfEnd" in slate units from the start of the content; "ViewFraction", how much of the
+	 *         content is in view, and "ViewOffsetFraction", where the view begins, both 0 to 1. Empty, with a log line, if there
+	 *         is no scroll box of that name. The numbers are those of the last layout.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	TMap<FString, float> GetScrollBoxOffsets(FName AkaName);
@@ -177,10 +181,10 @@ public:
 	/**
 	 * Opens a tool, or brings it to the front if it is open. "InitPyCmd" has run when this returns.
 	 *
-	 * @param ToolsPath  The relative JSON path of Velmora tool in Python folder, e.g. "VelmoraGallery/VelmoraGallery.json", or an absolute
-	 *                   path.
-	 * @return True if the tool is in a tab now. A tool with an "InitTabSize" opens in a window of its own and gives false, as does, with a
-	 *         line in the log, a file that is missing or cannot be parsed.
+	 * @param ToolsPath  The relative JSON path of Velmora tool in Python folder, e.g. "VelmoraGallery/VelmoraGallery.json", or an
+	 *                   absolute path.
+	 * @return True if the tool is in a tab now. A tool with an "InitTabSize" opens in a window of its own and gives false, as
+	 *         does, with a line in the log, a file that is missing or cannot be parsed.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	static bool LaunchVelmoraTool(const FString& ToolsPath = TEXT(""));
@@ -198,7 +202,8 @@ public:
 	 * Saves a picture of the window in which a tool is open, as PNG. The window does not change by it.
 	 *
 	 * @param ToolsPath           The relative JSON path of Velmora tool in Python folder, or an absolute path.
-	 * @param OverrideWindowSize  Size to paint the window at, in slate units, also beyond the screen's. (0, 0) for its present size.
+	 * @param OverrideWindowSize  Size to paint the window at, in slate units, also beyond the screen's. (0, 0) for its present
+	 *                            one.
 	 * @param ImageFilePath       File to write, with its missing folders. Empty for a name with date and time in the folder
 	 *                            "KestrixVelmoraUI" of the project's screenshots.
 	 * @return Absolute path of the file; empty if the tool is not open or the file could not be written.

@@ -73,11 +73,11 @@ void SetTextOfButton(SWidget& Widget, const FText& Text)
 }
 
 const FTextWidget TextWidgets[] = {
-	{ TEXT("STextBlock"), &GetTextOf<STextBlock>, &SetTextOf<STextBlock>, nullptr },
-	{ TEXT("SEditableTextBox"), &GetTextOf<SEditableTextBox>, &SetTextOf<SEditableTextBox>, &SetReadOnlyOf<SEditableTextBox> },
-	{ TEXT("SMultiLineEditableTextBox"), &GetTextOf<SMultiLineEditableTextBox>, &SetTextOf<SMultiLineEditableTextBox>,
-		&SetReadOnlyOf<SMultiLineEditableTextBox> },
-	{ TEXT("SButton"), &GetTextOfButton, &SetTextOfButton, nullptr },
+	{TEXT("STextBlock"), &GetTextOf<STextBlock>, &SetTextOf<STextBlock>, nullptr},
+	{TEXT("SEditableTextBox"), &GetTextOf<SEditableTextBox>, &SetTextOf<SEditableTextBox>, &SetReadOnlyOf<SEditableTextBox>},
+	{TEXT("SMultiLineEditableTextBox"), &GetTextOf<SMultiLineEditableTextBox>, &SetTextOf<SMultiLineEditableTextBox>,
+		&SetReadOnlyOf<SMultiLineEditableTextBox>},
+	{TEXT("SButton"), &GetTextOfButton, &SetTextOfButton, nullptr},
 };
 
 const FTextWidget* FindTextWidget(const SWidget& Widget)
@@ -92,20 +92,26 @@ const FTextWidget* FindTextWidget(const SWidget& Widget)
 	return nullptr;
 }
 
+struct FNamedVisibility
+{
+	const TCHAR* Name;
+	EVisibility Visibility;
+};
+
 bool FindVisibility(const FString& Name, EVisibility& Out)
 {
-	const TPair<const TCHAR*, EVisibility> Names[] = {
-		{ TEXT("Visible"), EVisibility::Visible },
-		{ TEXT("Collapsed"), EVisibility::Collapsed },
-		{ TEXT("Hidden"), EVisibility::Hidden },
-		{ TEXT("HitTestInvisible"), EVisibility::HitTestInvisible },
-		{ TEXT("SelfHitTestInvisible"), EVisibility::SelfHitTestInvisible },
+	const FNamedVisibility Visibilities[] = {
+		{TEXT("Visible"), EVisibility::Visible},
+		{TEXT("Collapsed"), EVisibility::Collapsed},
+		{TEXT("Hidden"), EVisibility::Hidden},
+		{TEXT("HitTestInvisible"), EVisibility::HitTestInvisible},
+		{TEXT("SelfHitTestInvisible"), EVisibility::SelfHitTestInvisible},
 	};
-	for (const TPair<const TCHAR*, EVisibility>& Entry : Names)
+	for (const FNamedVisibility& Entry : Visibilities)
 	{
-		if (Name.Equals(Entry.Key, ESearchCase::IgnoreCase))
+		if (Name.Equals(Entry.Name, ESearchCase::IgnoreCase))
 		{
-			Out = Entry.Value;
+			Out = Entry.Visibility;
 			return true;
 		}
 	}
@@ -294,10 +300,10 @@ TMap<FString, float> UVelmoraData::GetScrollBoxOffsets(FName AkaName)
 	const float ViewFraction = ScrollBox.GetViewFraction();
 	const float ViewOffsetFraction = ScrollBox.GetViewOffsetFraction();
 	const float OffsetOfEnd = ScrollBox.GetScrollOffsetOfEnd();
-	UE_LOG(PythonKX, Log, TEXT("LogScrollBox: offset %f, viewFraction: %f, viewOffsetFraction: %f, ScrollOffsetOfEnd: %f"), Offset,
-		ViewFraction, ViewOffsetFraction, OffsetOfEnd);
-	return { { TEXT("Offset"), Offset }, { TEXT("ViewFraction"), ViewFraction }, { TEXT("ViewOffsetFraction"), ViewOffsetFraction },
-		{ TEXT("ScrollOffsetOfEnd"), OffsetOfEnd } };
+	UE_LOG(PythonKX, Log, TEXT("LogScrollBox: offset %f, viewFraction: %f, viewOffsetFraction: %f, ScrollOffsetOfEnd: %f"),
+		Offset, ViewFraction, ViewOffsetFraction, OffsetOfEnd);
+	return {{TEXT("Offset"), Offset}, {TEXT("ViewFraction"), ViewFraction}, {TEXT("ViewOffsetFraction"), ViewOffsetFraction},
+		{TEXT("ScrollOffsetOfEnd"), OffsetOfEnd}};
 }
 
 bool UVelmoraData::SetScrollBoxOffset(FName AkaName, float Offset)

@@ -83,7 +83,12 @@ FString UVelmoraData::SnapshotVelmoraWindow(const FString& ToolsPath, FVector2D 
 	{
 		return FString();
 	}
+	// A tab that is just closing has left its window already.
 	const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Tab.ToSharedRef());
+	if (!Window.IsValid())
+	{
+		return FString();
+	}
 	TArray<FColor> Pixels;
 	FIntVector Size(0, 0, 0);
 	FSlateApplication::Get().TakeScreenshot(Window.ToSharedRef(), Pixels, Size);
