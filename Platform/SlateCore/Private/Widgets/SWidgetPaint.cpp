@@ -21,7 +21,8 @@ int32 SWidget::Paint(const FPaintArgs& Args, const FSlateRect& MyCullingRect, FS
 	{
 		if (const FSlateBrush* FocusBrush = GetFocusBrush())
 		{
-			FSlateDrawElement::MakeBox(OutDrawElements, ++HighestLayer, PaintSpaceGeometry.ToPaintGeometry(), FocusBrush);
+			FSlateDrawElement::MakeBox(OutDrawElements, ++HighestLayer, PaintSpaceGeometry.ToPaintGeometry(), FocusBrush,
+				ESlateDrawEffect::None, FocusBrush->GetTint(InWidgetStyle));
 		}
 	}
 	if (bClips)

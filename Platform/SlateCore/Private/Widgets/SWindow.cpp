@@ -7,6 +7,31 @@
 #include "Styling/WidgetStyle.h"
 #include "Types/PaintArgs.h"
 
+DEFINE_LOG_CATEGORY_STATIC(LogSlateWindow, Log, All);
+
+namespace
+{
+/** The pixels of a larger window would not fit into a picture, and hardly into memory. */
+constexpr double MaxSide = 16384.0;
+
+/** What is no number counts as nothing. */
+double LimitSide(double Side)
+{
+	return Side >= 1.0 ? FMath::Min(Side, MaxSide) : 1.0;
+}
+
+FVector2D LimitSize(const FVector2D& Size)
+{
+	const FVector2D Limited(LimitSide(Size.X), LimitSide(Size.Y));
+	if (Size.X > MaxSide || Size.Y > MaxSide)
+	{
+		UE_LOG(LogSlateWindow, Warning, TEXT("A window of %.0f x %.0f is too large; %.0f x %.0f is used."), Size.X, Size.Y, Limited.X,
+			Limited.Y);
+	}
+	return Limited;
+}
+}
+
 SWindow::SWindow()
 {
 	SetClipping(EWidgetClipping::ClipToBounds);
@@ -19,7 +44,7 @@ void SWindow::Construct(const FArguments& InArgs)
 	Title.Assign(*this, InArgs._Title);
 	AutoCenter = InArgs._AutoCenter;
 	ScreenPosition = InArgs._ScreenPosition;
-	Size = InArgs._ClientSize;
+	Size = LimitSize(InArgs._ClientSize);
 	bSupportsMaximize = InArgs._SupportsMaximize;
 	bSupportsMinimize = InArgs._SupportsMinimize;
 
@@ -68,17 +93,18 @@ void SWindow::MoveWindowTo(FVector2D NewPosition)
 
 void SWindow::Resize(FVector2D NewClientSize)
 {
+	const FVector2D NewSize = LimitSize(NewClientSize);
 	if (NativeWindow.IsValid())
 	{
 		NativeWindow->ReshapeWindow(FMath::RoundToInt(ScreenPosition.X), FMath::RoundToInt(ScreenPosition.Y),
-			FMath::Max(FMath::RoundToInt(NewClientSize.X), 1), FMath::Max(FMath::RoundToInt(NewClientSize.Y), 1));
+			FMath::RoundToInt(NewSize.X), FMath::RoundToInt(NewSize.Y));
 	}
-	SetCachedSize(NewClientSize);
+	SetCachedSize(NewSize);
 }
 
 void SWindow::SetCachedSize(FVector2D InSize)
 {
-	const FVector2D NewSize(FMath::Max(InSize.X, 1.0), FMath::Max(InSize.Y, 1.0));
+	const FVector2D NewSize = LimitSize(InSize);
 	if (NewSize == Size)
 	{
 		return;

@@ -63,6 +63,12 @@ TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef
 		UE_LOG(LogTabManager, Warning, TEXT("There is no tab spawner for '%s'."), *TabId.ToString());
 		return nullptr;
 	}
+	if (TabsBeingSpawned.Contains(TabId.ToString()))
+	{
+		UE_LOG(LogTabManager, Warning, TEXT("'%s' is opening already; its own opening asked for it again."), *TabId.ToString());
+		return nullptr;
+	}
+
 	// The spawner runs code of others, which may unregister it.
 	const FTabSpawnerEntry Entry = **Registered;
 	const FText DisplayName = Entry.GetDisplayName();
@@ -70,7 +76,9 @@ TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef
 		[&] { return FString::Printf(TEXT("opening of tab \"%s\""), *DisplayName.ToString()); });
 
 	const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Stack);
+	TabsBeingSpawned.Add(TabId.ToString());
 	const TSharedRef<SDockTab> Tab = Entry.OnSpawnTab.Execute(FSpawnTabArgs(Window, TabId));
+	TabsBeingSpawned.Remove(TabId.ToString());
 	Tab->SetLayoutIdentifier(TabId);
 	if (!Tab->bHasLabel)
 	{

@@ -201,6 +201,7 @@ private:
 	TSharedRef<SDockingTabStack> MakeStackInNewWindow(const FVector2D& Size, const FVector2D& Position, bool bMaximized);
 
 	TMap<FName, TUniquePtr<FTabSpawnerEntry>> Spawners;
+	TArray<FString> TabsBeingSpawned;
 	TWeakPtr<SDockingTabStack> PrimaryStack;
 };
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "Application/SlateFrame.h"
+#include "LogCapture.h"
 #include "Rendering/SlateRenderer.h"
 #include "SlateTestWindow.h"
 #include "Widgets/Input/SButton.h"
@@ -199,6 +200,15 @@ TEST(Frame, PaintingOnlyTheDamageGivesThePictureOfPaintingAll)
 	FSlateApplication::Get().TakeScreenshot(Window.GetWindow().AsShared(), Whole, Size);
 
 	EXPECT_EQ(Partial, Whole);
+}
+
+TEST(Frame, AWindowBeyondAllMeasureIsLimitedWithAWarning)
+{
+	const FLogCapture Log(TEXT("LogSlateWindow"));
+	const TSharedRef<SWindow> Huge = SNew(SWindow).ClientSize(FVector2D(1e9, std::numeric_limits<double>::quiet_NaN()));
+
+	EXPECT_EQ(Huge->GetSizeInScreen(), FVector2D(16384.0, 1.0));
+	EXPECT_EQ(Log.Warnings().Num(), 1);
 }
 
 TEST(Frame, ResizingAWindowLaysItOutAnew)
