@@ -1,15 +1,11 @@
 #include "Widgets/Input/SButton.h"
 
 #include "Styling/AppStyle.h"
+#include "Widgets/Input/AcceptKeys.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace
 {
-bool IsAcceptKey(const FKey& Key)
-{
-	return Key == EKeys::Enter || Key == EKeys::SpaceBar;
-}
-
 const FButtonStyle& GetDefaultButtonStyle()
 {
 	return FAppStyle::Get().GetWidgetStyle<FButtonStyle>("Button");

@@ -3,16 +3,12 @@
 #include "Rendering/DrawElements.h"
 #include "Styling/AppStyle.h"
 #include "Styling/WidgetStyle.h"
+#include "Widgets/Input/AcceptKeys.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SLeafWidget.h"
 
 namespace
 {
-bool IsAcceptKey(const FKey& Key)
-{
-	return Key == EKeys::Enter || Key == EKeys::SpaceBar;
-}
-
 const FCheckBoxStyle& GetDefaultCheckBoxStyle()
 {
 	return FAppStyle::Get().GetWidgetStyle<FCheckBoxStyle>("Checkbox");
