@@ -25,7 +25,7 @@ TSharedPtr<SWidget> FindRoot(const FString& Tab);
 /** The window in which the tab of that name, or which itself, is; null when there is none. */
 TSharedPtr<SWindow> FindWindow(const FString& Tab);
 
-/** All widgets of that description, in reading order. */
+/** All widgets of that description, in the order of the tree. */
 TArray<TSharedRef<SWidget>> FindAll(const FWidgetDescription& Description);
 
 /** The one that is meant. @param OutError Says what was not found and what there is instead. */

@@ -24,7 +24,7 @@ public:
 	 * @param Tab  Label or identifier of a tab, or title of a window. A label may be given by its beginning.
 	 * @param Type  Type of the widget, such as "SButton", or "#name".
 	 * @param Text  The text that the widget shows, itself or within it; empty for any.
-	 * @param Index  Which one of those that are alike, from 0 in reading order.
+	 * @param Index  Which one of those that are alike, from 0 in the order of the tree.
 	 * @return What took the press, such as: SButton "Find".
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")

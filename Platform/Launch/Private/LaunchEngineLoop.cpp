@@ -12,6 +12,7 @@
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/CoreDelegates.h"
+#include "Misc/CoreMisc.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/OutputDeviceFile.h"
 #include "Misc/OutputDeviceStdOutput.h"
@@ -21,7 +22,9 @@
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
+#include <climits>
 #include <cstdio>
+#include <unistd.h>
 
 DEFINE_LOG_CATEGORY_STATIC(LogLaunch, Log, All);
 
@@ -32,7 +35,28 @@ namespace
 /** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
 constexpr double LongestSleep = 1.0;
 
+/** Whoever wants every frame, an animation or a callback, gets no more than sixty a second. Input does not wait for it. */
+constexpr double ShortestFrame = 1.0 / 60.0;
+
 const FVector2D MainWindowSize(1280.0, 800.0);
+
+/** The file name that the user gave, counted from the folder in which the editor was started. */
+FString MakeFullFromWorkingDirectory(const FString& Path)
+{
+	char Folder[PATH_MAX];
+	return FPaths::IsRelative(Path) && getcwd(Folder, sizeof(Folder))
+		? FPaths::ConvertRelativePathToFull(UTF8_TO_TCHAR(Folder), Path)
+		: FPaths::ConvertRelativePathToFull(Path);
+}
+
+void RunConsoleInput(const FString& Input)
+{
+	if (!IConsoleManager::Get().ProcessUserConsoleInput(*Input, *GLog, nullptr) &&
+		!FSelfRegisteringExec::StaticExec(nullptr, *Input, *GLog))
+	{
+		UE_LOG(LogLaunch, Warning, TEXT("Command not recognized: %s"), *Input);
+	}
+}
 }
 
 FEngineLoop::FEngineLoop() = default;
@@ -44,7 +68,7 @@ bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 	FString ProjectFile;
 	const TCHAR* Rest = CommandLine;
 	FParse::Token(Rest, ProjectFile, false);
-	ProjectFile = FPaths::ConvertRelativePathToFull(ProjectFile);
+	ProjectFile = MakeFullFromWorkingDirectory(ProjectFile);
 	if (FPaths::GetExtension(ProjectFile) != TEXT("uproject") || !FPaths::FileExists(ProjectFile))
 	{
 		std::fprintf(
@@ -94,7 +118,6 @@ void FEngineLoop::Init()
 	{
 		Plugins.LoadModulesForEnabledPlugins(Phase);
 	}
-	FCoreDelegates::OnPostEngineInit.Broadcast();
 	UE_LOG(LogLaunch, Log, TEXT("Project %s is open."), *FPaths::GetProjectFilePath());
 	FCoreDelegates::OnPostEngineInit.Broadcast();
 }
@@ -161,7 +184,7 @@ void FEngineLoop::RunCommandLineCommands()
 		Commands.ParseIntoArray(Each, TEXT(";"));
 		for (const FString& Command : Each)
 		{
-			IConsoleManager::Get().ProcessUserConsoleInput(*Command.TrimStartAndEnd(), *GLog, nullptr);
+			RunConsoleInput(Command.TrimStartAndEnd());
 		}
 	}
 
@@ -186,11 +209,17 @@ void FEngineLoop::RunCommandLineCommands()
 void FEngineLoop::WaitForWork()
 {
 	FSlateApplication& Slate = FSlateApplication::Get();
-	if (FApp::UseFixedTimeStep() || Slate.NeedsFrame() || IsEngineExitRequested())
+	if (FApp::UseFixedTimeStep() || IsEngineExitRequested())
 	{
 		return;
 	}
-	const double Seconds = FMath::Min(Slate.GetSecondsToNextCall(), FTSTicker::GetCoreTicker().GetSecondsToNextCall());
+	const double ToNextCall = FMath::Min(Slate.GetSecondsToNextCall(), FTSTicker::GetCoreTicker().GetSecondsToNextCall());
+	const double ToNextFrame = FApp::GetCurrentTime() + ShortestFrame - FPlatformTime::Seconds();
+	const double Seconds = Slate.NeedsFrame() ? ToNextFrame : FMath::Max(ToNextCall, ToNextFrame);
+	if (Seconds <= 0.0)
+	{
+		return;
+	}
 	FCoreDelegates::OnMainLoopSleep.Broadcast();
 	Slate.GetPlatformApplication()->WaitForMessages(FMath::Clamp(Seconds, 0.0, LongestSleep));
 	FCoreDelegates::OnMainLoopWake.Broadcast();

@@ -158,3 +158,13 @@ bool FPythonScriptPlugin::ExecPythonCommandEx(FPythonCommandEx& InOutPythonComma
 	PythonSlateTicks::RequestFrame();
 	return bSucceeded;
 }
+
+bool FPythonScriptPlugin::Exec(UWorld* InWorld, const TCHAR* Cmd, FOutputDevice& Ar)
+{
+	if (!FParse::Command(&Cmd, TEXT("py")))
+	{
+		return false;
+	}
+	ExecPythonCommand(Cmd);
+	return true;
+}

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "IPythonScriptPlugin.h"
+#include "Misc/CoreMisc.h"
 
 /** The module: starts Python with the editor, keeps it up to date with the modules that come, and ends it. */
-class FPythonScriptPlugin final : public IPythonScriptPlugin
+class FPythonScriptPlugin final : public IPythonScriptPlugin, private FSelfRegisteringExec
 {
 public:
 	void StartupModule() override;
@@ -16,6 +17,9 @@ public:
 	FSimpleMulticastDelegate& OnPythonShutdown() override { return PythonShutdown; }
 
 private:
+	/** The console input "py <text>" or "py <file.py> <arguments>". */
+	bool Exec(UWorld* InWorld, const TCHAR* Cmd, FOutputDevice& Ar) override;
+
 	bool CanRun() const;
 	void FollowModules();
 	void FinishStartup();

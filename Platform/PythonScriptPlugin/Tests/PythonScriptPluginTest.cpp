@@ -3,6 +3,7 @@
 #include "Interfaces/IPluginManager.h"
 #include "Misc/CommandLine.h"
 #include "Misc/CoreDelegates.h"
+#include "Misc/CoreMisc.h"
 #include "PythonTest.h"
 #include "TempProject.h"
 
@@ -123,4 +124,11 @@ TEST(PythonScriptLibrary, RunsCommandsFromPython)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonScriptLibrary.execute_python_command_ex('6*7', "
 							"execution_mode=unreal.PythonCommandExecutionMode.EVALUATE_STATEMENT)[0]")),
 		TEXT("'42'"));
+}
+
+TEST(PythonScriptPlugin, ConsoleInputThatBeginsWithPyRuns)
+{
+	EXPECT_TRUE(FSelfRegisteringExec::StaticExec(nullptr, TEXT("py from_console = 'a' + \"b\""), *GLog));
+	EXPECT_EQ(Evaluate(TEXT("from_console")), TEXT("'ab'"));
+	EXPECT_FALSE(FSelfRegisteringExec::StaticExec(nullptr, TEXT("python from_console = 1"), *GLog));
 }

@@ -4,6 +4,7 @@
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Templates/Casts.h"
+#include "UObject/Package.h"
 #include "Velmora/VelmoraData.h"
 
 namespace

@@ -2,6 +2,8 @@
 
 #include "Containers/UnrealString.h"
 
+#include <string>
+
 namespace
 {
 bool MatchesExactly(const TCHAR* Text, const TCHAR* SubString, int32 Length)
@@ -19,9 +21,24 @@ bool MatchesWith(ESearchCase::Type SearchCase, const TCHAR* Text, const TCHAR* S
 int32 FindForward(const TCHAR* Text, int32 Length, const TCHAR* SubString, int32 SubLength, ESearchCase::Type SearchCase, int32 Start)
 {
 	const TCHAR First = SubLength ? FChar::ToLower(*SubString) : 0;
+	// What is no letter has no other case, so that most places are passed over by comparing one character.
+	const bool bExactFirst = SubLength > 0 && (SearchCase == ESearchCase::CaseSensitive || (First < 128 && !FChar::IsLower(First)));
 	for (int32 Index = Start; Index <= Length - SubLength; ++Index)
 	{
-		if ((SubLength == 0 || FChar::ToLower(Text[Index]) == First) && MatchesWith(SearchCase, Text + Index, SubString, SubLength))
+		if (bExactFirst)
+		{
+			const TCHAR* const Found = std::char_traits<TCHAR>::find(Text + Index, SIZE_T(Length - SubLength + 1 - Index), *SubString);
+			if (!Found)
+			{
+				return INDEX_NONE;
+			}
+			Index = int32(Found - Text);
+		}
+		else if (SubLength > 0 && FChar::ToLower(Text[Index]) != First)
+		{
+			continue;
+		}
+		if (MatchesWith(SearchCase, Text + Index, SubString, SubLength))
 		{
 			return Index;
 		}
@@ -222,7 +239,7 @@ int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* const* Del
 
 int32 FString::ParseIntoArrayLines(TArray<FString>& OutArray, bool bCullEmpty) const
 {
-	return Cut(*this, OutArray, bCullEmpty, &LineEndAt);
+	return Cut(*this, OutArray, bCullEmpty, [](const TCHAR* At) { return LineEndAt(At); });
 }
 
 int32 FString::ParseIntoArrayWS(TArray<FString>& OutArray, const TCHAR* ExtraDelimiter, bool bCullEmpty) const

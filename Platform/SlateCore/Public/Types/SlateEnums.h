@@ -52,37 +52,6 @@ enum Type : int
 };
 }
 
-namespace ETextJustify
-{
-enum Type : int
-{
-	Left,
-	Center,
-	Right,
-};
-}
-
-/** How text breaks where a line is too long. */
-enum class ETextWrappingPolicy : uint8
-{
-	/** Only between words, as the language allows. */
-	DefaultWrapping = 0,
-	/** Also inside a word that is longer than the line. */
-	AllowPerCharacterWrapping,
-};
-
-namespace EProgressBarFillType
-{
-enum Type : int
-{
-	LeftToRight,
-	RightToLeft,
-	FillFromCenter,
-	TopToBottom,
-	BottomToTop,
-};
-}
-
 enum class EUINavigation : uint8
 {
 	Left,

@@ -40,7 +40,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	static bool GetPythonFlag();
 
-	/** Tells the plugin that Python is ready. It runs this itself when the editor's tool bar is filled. */
+	/** Tells the plugin that Python is ready; get_python_flag returns what was said last. */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	static void SetPythonFlag(bool bIsReady);
 
@@ -190,7 +190,7 @@ public:
 	static bool LaunchVelmoraTool(const FString& ToolsPath = TEXT(""));
 
 	/**
-	 * Closes a tool's tab, after its "OnClosePyCmd" has run.
+	 * Closes a tool's tab. Its "OnClosePyCmd" has run when this returns.
 	 *
 	 * @param ToolsPath  The relative JSON path of Velmora tool in Python folder, or an absolute path.
 	 * @return False, with warnings that list the known tools, if the tool is not open.

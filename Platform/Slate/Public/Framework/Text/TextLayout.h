@@ -1,7 +1,25 @@
 #pragma once
 
 #include "CoreTypes.h"
-#include "Types/SlateEnums.h"
+
+namespace ETextJustify
+{
+enum Type : int
+{
+	Left,
+	Center,
+	Right,
+};
+}
+
+/** How text breaks where a line is too long. */
+enum class ETextWrappingPolicy : uint8
+{
+	/** Only between words, as the language allows. */
+	DefaultWrapping = 0,
+	/** Also inside a word that is longer than the line. */
+	AllowPerCharacterWrapping,
+};
 
 /** Places in a text to which a caret can be sent or a view scrolled. */
 enum class ETextLocation : uint8

@@ -1,4 +1,16 @@
 #pragma once
 
-// The ways in which a progress bar fills (EProgressBarFillType).
-#include "Types/SlateEnums.h"
+#include "CoreTypes.h"
+
+/** The ways in which a progress bar fills. */
+namespace EProgressBarFillType
+{
+enum Type : int
+{
+	LeftToRight,
+	RightToLeft,
+	FillFromCenter,
+	TopToBottom,
+	BottomToTop,
+};
+}
