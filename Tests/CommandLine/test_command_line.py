@@ -1,0 +1,47 @@
+"""The editor as a shell starts it: its status, its log and what it says."""
+
+
+def test_a_script_that_ends_well_gives_status_0(shell):
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
+    assert run.returncode == 0
+    assert "LogPython: 42" in shell.log_text()
+
+
+def test_a_script_that_raises_gives_status_1_and_its_traceback(shell):
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('1 / 0')}")
+    assert run.returncode == 1
+    assert "LogPython: Error: ZeroDivisionError: division by zero" in shell.log_text()
+
+
+def test_a_script_gets_its_arguments(shell):
+    script = shell.script("import sys; print('|'.join(sys.argv[1:]))")
+    shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script} one two")
+    assert "LogPython: one|two" in shell.log_text()
+
+
+def test_console_commands_run_and_unknown_ones_are_named(shell):
+    shell.start(
+        "Trial/Trial.uproject",
+        "-ExecCmds=py print('from the console'); Kestrix.OverrideEnabled 0; no such thing",
+        f"-ExecutePythonScript={shell.script('pass')}",
+    )
+    assert "LogPython: from the console" in shell.log_text()
+    assert "LogLaunch: Warning: Command not recognized: no such thing" in shell.log_text()
+    assert "Command not recognized: Kestrix" not in shell.log_text()
+
+
+def test_a_project_that_is_not_there_gives_status_2_and_is_named(shell):
+    run = shell.start("Trial/Nothing.uproject")
+    assert run.returncode == 2
+    assert "Nothing.uproject' is not a project file" in run.stderr
+
+
+def test_with_stdout_the_log_goes_to_the_console_too(shell):
+    run = shell.start("Trial/Trial.uproject", "-stdout", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
+    assert "LogPython: 42" in run.stdout
+
+
+def test_without_python_the_editor_runs_and_a_script_fails(shell):
+    run = shell.start("Trial/Trial.uproject", "-DisablePython", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
+    assert run.returncode == 1
+    assert "LogPython: 42" not in shell.log_text()

@@ -1,0 +1,37 @@
+"""Runs inside the editor: probe.py TOOL STATE_FILE. Opens a tool, and writes after each change what it shows and where."""
+
+import json
+import os
+import sys
+
+import unreal
+
+TOOL, STATE_FILE = sys.argv[1:]
+TAB = "Regex Tester"
+
+
+class Probe:
+    def __init__(self):
+        self.written = None
+
+    def __call__(self, delta_seconds):
+        if unreal.EditorDriver.count(TAB, "SVelmoraWidget") == 0:
+            return
+        data = unreal.PythonBPLib.get_velmora_data(TOOL)
+        names = ("Pattern", "Sample", "Replacement", "Result", "Status")
+        state = {
+            "texts": {name: data.get_text(name) for name in names},
+            "ignore_case": data.get_is_checked("IgnoreCase"),
+            "tree": unreal.EditorDriver.dump_tree(TAB),
+        }
+        if state != self.written:
+            self.written = state
+            with open(STATE_FILE + ".new", "w", encoding="utf-8") as file:
+                json.dump(state, file)
+            os.replace(STATE_FILE + ".new", STATE_FILE)
+
+
+unreal.EditorPythonScripting.set_keep_python_script_alive(True)
+unreal.VelmoraData.request_close("VelmoraGallery/VelmoraGallery.json")
+unreal.VelmoraData.launch_velmora_tool(TOOL)
+unreal.register_slate_post_tick_callback(Probe())
