@@ -145,7 +145,11 @@ TSharedPtr<SWidget> WidgetFinder::Find(const FWidgetDescription& Description, FS
 	const TArray<TSharedRef<SWidget>> All = FindAll(Description);
 	if (!All.IsValidIndex(Description.Index))
 	{
-		OutError = FString::Printf(TEXT("There is no %s; %d would fit but for the index"), *Description.ToString(), All.Num());
+		OutError = FString::Printf(TEXT("There is no %s"), *Description.ToString());
+		if (All.Num() > 0)
+		{
+			OutError += FString::Printf(TEXT("; they are numbered from 0 to %d"), All.Num() - 1);
+		}
 		return nullptr;
 	}
 	return All[Description.Index];

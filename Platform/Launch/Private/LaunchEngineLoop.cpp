@@ -191,6 +191,11 @@ void FEngineLoop::RunCommandLineCommands()
 	FString Script;
 	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false))
 	{
+		if (FPaths::FileExists(Script))
+		{
+			// A name with blanks in it would be taken for a file with arguments.
+			Script = TEXT("\"") + Script + TEXT("\"");
+		}
 		IPythonScriptPlugin* const Python = IPythonScriptPlugin::Get();
 		const bool bSucceeded = Python && Python->ExecPythonCommand(*Script);
 		if (!bSucceeded)

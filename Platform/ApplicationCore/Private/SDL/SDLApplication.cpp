@@ -3,6 +3,7 @@
 #include "PlatformClipboard.h"
 #include "SDL/SDLCursor.h"
 #include "SDL/SDLWindow.h"
+#include "SDL/X11Errors.h"
 
 #include <SDL.h>
 
@@ -88,10 +89,13 @@ FSDLApplication* FSDLApplication::Create()
 	SDL_SetHint(SDL_HINT_MOUSE_AUTO_CAPTURE, "1");
 	SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
 	SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+	// SDL sets a handler of its own, and at its end the one from before.
+	X11Errors::TurnIntoWarnings();
 	if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
 	{
 		return nullptr;
 	}
+	X11Errors::TurnIntoWarnings();
 	SDL_StartTextInput();
 	return new FSDLApplication(MakeShared<FSDLCursor>());
 }

@@ -47,6 +47,7 @@ void SWindow::Construct(const FArguments& InArgs)
 	Size = LimitSize(InArgs._ClientSize);
 	bSupportsMaximize = InArgs._SupportsMaximize;
 	bSupportsMinimize = InArgs._SupportsMinimize;
+	bSaneWindowPlacement = InArgs._SaneWindowPlacement;
 
 	SAssignNew(Layers, SOverlay) + SOverlay::Slot().Expose(ContentSlot)[InArgs._Content];
 	ChildSlot[Layers.ToSharedRef()];
@@ -54,12 +55,27 @@ void SWindow::Construct(const FArguments& InArgs)
 
 FGenericWindowDefinition SWindow::MakeDefinition(const FPlatformRect& WorkArea) const
 {
+	const FVector2D AreaStart(WorkArea.Left, WorkArea.Top);
+	const FVector2D AreaSize(WorkArea.Right - WorkArea.Left, WorkArea.Bottom - WorkArea.Top);
+	FVector2D Position = ScreenPosition;
+	FVector2D SizeOnScreen = Size;
+	if (AutoCenter == EAutoCenter::PrimaryWorkArea)
+	{
+		Position = AreaStart + (AreaSize - Size) / 2.0;
+	}
+	else if (bSaneWindowPlacement)
+	{
+		SizeOnScreen = FVector2D(FMath::Min(Size.X, AreaSize.X), FMath::Min(Size.Y, AreaSize.Y));
+		const FVector2D LastPosition = AreaStart + AreaSize - SizeOnScreen;
+		Position = FVector2D(FMath::Clamp(ScreenPosition.X, AreaStart.X, LastPosition.X),
+			FMath::Clamp(ScreenPosition.Y, AreaStart.Y, LastPosition.Y));
+	}
+
 	FGenericWindowDefinition Definition;
-	const bool bCenter = AutoCenter == EAutoCenter::PrimaryWorkArea;
-	Definition.XDesiredPositionOnScreen = bCenter ? (WorkArea.Left + WorkArea.Right - Size.X) / 2.0 : ScreenPosition.X;
-	Definition.YDesiredPositionOnScreen = bCenter ? (WorkArea.Top + WorkArea.Bottom - Size.Y) / 2.0 : ScreenPosition.Y;
-	Definition.WidthDesiredOnScreen = Size.X;
-	Definition.HeightDesiredOnScreen = Size.Y;
+	Definition.XDesiredPositionOnScreen = Position.X;
+	Definition.YDesiredPositionOnScreen = Position.Y;
+	Definition.WidthDesiredOnScreen = SizeOnScreen.X;
+	Definition.HeightDesiredOnScreen = SizeOnScreen.Y;
 	Definition.HasOSWindowBorder = true;
 	Definition.HasSizingFrame = true;
 	Definition.SupportsMaximize = bSupportsMaximize;

@@ -30,6 +30,7 @@ public:
 		, _AutoCenter(EAutoCenter::PrimaryWorkArea)
 		, _SupportsMaximize(true)
 		, _SupportsMinimize(true)
+		, _SaneWindowPlacement(true)
 	{
 	}
 	SLATE_ATTRIBUTE(FText, Title)
@@ -40,6 +41,8 @@ public:
 	SLATE_ARGUMENT(EAutoCenter, AutoCenter)
 	SLATE_ARGUMENT(bool, SupportsMaximize)
 	SLATE_ARGUMENT(bool, SupportsMinimize)
+	/** Whether a window that is placed by ScreenPosition is moved and shrunk into the work area. */
+	SLATE_ARGUMENT(bool, SaneWindowPlacement)
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
@@ -85,7 +88,7 @@ public:
 	//
 
 	const TSharedPtr<FGenericWindow>& GetNativeWindow() const { return NativeWindow; }
-	/** @param WorkArea Where a window that is to be centred goes. */
+	/** @param WorkArea Where a window that is to be centred goes, and where a placed one stays unless told otherwise. */
 	FGenericWindowDefinition MakeDefinition(const FPlatformRect& WorkArea) const;
 	void SetNativeWindow(const TSharedRef<FGenericWindow>& InNativeWindow) { NativeWindow = InNativeWindow; }
 	void SetCachedScreenPosition(FVector2D InPosition) { ScreenPosition = InPosition; }
@@ -119,6 +122,7 @@ private:
 	EAutoCenter AutoCenter = EAutoCenter::PrimaryWorkArea;
 	bool bSupportsMaximize = true;
 	bool bSupportsMinimize = true;
+	bool bSaneWindowPlacement = true;
 	bool bShown = false;
 	bool bSizeChanged = true;
 };

@@ -1,6 +1,7 @@
 #include "Framework/Docking/SDockingTabStack.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/SDockingTabWell.h"
 #include "Framework/Docking/TabManager.h"
 #include "Styling/AppStyle.h"
 #include "Widgets/Docking/SDockTab.h"
@@ -22,7 +23,7 @@ void SDockingTabStack::Construct(const FArguments& InArgs)
 			.BorderImage(&Style.TabWellBrush)
 			.Padding(FMargin(4.0f, 4.0f, 4.0f, 0.0f))
 			[
-				SAssignNew(Well, SHorizontalBox)
+				SAssignNew(Well, SDockingTabWell)
 			]
 		]
 		+ SVerticalBox::Slot()

@@ -4,7 +4,7 @@
 
 class SBorder;
 class SDockTab;
-class SHorizontalBox;
+class SDockingTabWell;
 class SWindow;
 
 /** A well of tabs and, below it, the content of the one in front. */
@@ -38,7 +38,7 @@ private:
 
 	TArray<TSharedRef<SDockTab>> Tabs;
 	TSharedPtr<SDockTab> Foreground;
-	TSharedPtr<SHorizontalBox> Well;
+	TSharedPtr<SDockingTabWell> Well;
 	TSharedPtr<SBorder> ContentArea;
 	TWeakPtr<SWindow> OwnWindow;
 };

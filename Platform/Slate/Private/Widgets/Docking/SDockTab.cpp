@@ -42,7 +42,7 @@ void SDockTab::Construct(const FArguments& InArgs)
 				.Visibility(EVisibility::Collapsed)
 			]
 			+ SHorizontalBox::Slot()
-			.AutoWidth()
+			.FillWidth(1.0f)
 			.VAlign(VAlign_Center)
 			[
 				SAssignNew(LabelText, STextBlock)
@@ -65,6 +65,7 @@ void SDockTab::Construct(const FArguments& InArgs)
 			]
 		]);
 	// clang-format on
+	LabelText->SetClipping(EWidgetClipping::ClipToBounds);
 	if (InArgs._Label.IsSet())
 	{
 		SetLabel(InArgs._Label);
@@ -89,6 +90,8 @@ void SDockTab::SetLabel(const TAttribute<FText>& InTabLabel)
 {
 	bHasLabel = true;
 	LabelText->SetText(InTabLabel);
+	// Among many tabs there is no room for a long label.
+	SetToolTipText(InTabLabel);
 	if (const TSharedPtr<SDockingTabStack> Stack = ParentStack.Pin())
 	{
 		Stack->UpdateWindowTitle();

@@ -211,6 +211,27 @@ TEST(Frame, AWindowBeyondAllMeasureIsLimitedWithAWarning)
 	EXPECT_EQ(Log.Warnings().Num(), 1);
 }
 
+TEST(Frame, APlacedWindowStaysInTheWorkAreaUnlessToldOtherwise)
+{
+	const FPlatformRect WorkArea(0, 0, 1000, 800);
+	const auto Place = [&WorkArea](bool bSane)
+	{
+		const TSharedRef<SWindow> Window = SNew(SWindow)
+			.AutoCenter(EAutoCenter::None)
+			.ScreenPosition(FVector2D(900.0, -50.0))
+			.ClientSize(FVector2D(300.0, 2000.0))
+			.SaneWindowPlacement(bSane);
+		return Window->MakeDefinition(WorkArea);
+	};
+
+	const FGenericWindowDefinition Sane = Place(true);
+	EXPECT_EQ(FVector2D(Sane.XDesiredPositionOnScreen, Sane.YDesiredPositionOnScreen), FVector2D(700.0, 0.0));
+	EXPECT_EQ(FVector2D(Sane.WidthDesiredOnScreen, Sane.HeightDesiredOnScreen), FVector2D(300.0, 800.0));
+	const FGenericWindowDefinition Free = Place(false);
+	EXPECT_EQ(FVector2D(Free.XDesiredPositionOnScreen, Free.YDesiredPositionOnScreen), FVector2D(900.0, -50.0));
+	EXPECT_EQ(FVector2D(Free.WidthDesiredOnScreen, Free.HeightDesiredOnScreen), FVector2D(300.0, 2000.0));
+}
+
 TEST(Frame, ResizingAWindowLaysItOutAnew)
 {
 	TSharedPtr<SBorder> Border;

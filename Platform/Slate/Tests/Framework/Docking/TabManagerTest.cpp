@@ -227,3 +227,24 @@ TEST(TabId, PrintsTheTypeAndTheInstanceIfThereIsOne)
 	EXPECT_EQ(FTabId("Type").ToString(), TEXT("Type"));
 	EXPECT_EQ(FTabId("Type", 3).ToString(), TEXT("Type:3"));
 }
+
+TEST(TabManager, TabsThatHaveNoRoomSideBySideShareIt)
+{
+	FTabWindow Tabs;
+	TArray<TSharedPtr<SDockTab>> Made;
+	for (int32 Index = 0; Index < 12; ++Index)
+	{
+		const FName Name(*FString::Printf(TEXT("A tab with a long label %d"), Index));
+		Tabs.Register(Name);
+		Made.Add(Manager()->TryInvokeTab(Name));
+	}
+	Tabs.Register("S");
+	Made.Add(Manager()->TryInvokeTab(FName("S")));
+	Tabs.Window.Frame();
+
+	const auto WidthOf = [&Made](int32 Index) { return Made[Index]->GetTickSpaceGeometry().GetLocalSize().X; };
+	EXPECT_LE(Tabs.Window.MiddleOf(*Made.Last()).X + WidthOf(12) / 2.0, 640.0);
+	EXPECT_DOUBLE_EQ(WidthOf(0), WidthOf(11));
+	EXPECT_LT(WidthOf(0), Made[0]->GetDesiredSize().X);
+	EXPECT_LE(WidthOf(12), WidthOf(0));
+}
