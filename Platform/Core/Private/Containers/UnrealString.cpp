@@ -6,11 +6,8 @@
 #include <charconv>
 
 FString::FString(const TCHAR* Text)
+	: FString(Text ? FCString::Strlen(Text) : 0, Text)
 {
-	if (Text)
-	{
-		AppendChars(Text, FCString::Strlen(Text));
-	}
 }
 
 FString::FString(const ANSICHAR* Text)
@@ -20,7 +17,12 @@ FString::FString(const ANSICHAR* Text)
 
 FString::FString(int32 Length, const TCHAR* Text)
 {
-	AppendChars(Text, Length);
+	if (Length > 0)
+	{
+		// Most strings stay as they were made, so they get no room to grow.
+		Reserve(Length);
+		AppendChars(Text, Length);
+	}
 }
 
 FString::FString(int32 Length, const ANSICHAR* Text)

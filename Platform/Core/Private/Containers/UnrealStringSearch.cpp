@@ -22,12 +22,14 @@ int32 FindForward(const TCHAR* Text, int32 Length, const TCHAR* SubString, int32
 {
 	const TCHAR First = SubLength ? FChar::ToLower(*SubString) : 0;
 	// What is no letter has no other case, so that most places are passed over by comparing one character.
-	const bool bExactFirst = SubLength > 0 && (SearchCase == ESearchCase::CaseSensitive || (First < 128 && !FChar::IsLower(First)));
+	const bool bExactFirst =
+		SubLength > 0 && (SearchCase == ESearchCase::CaseSensitive || (First < 128 && !FChar::IsLower(First)));
 	for (int32 Index = Start; Index <= Length - SubLength; ++Index)
 	{
 		if (bExactFirst)
 		{
-			const TCHAR* const Found = std::char_traits<TCHAR>::find(Text + Index, SIZE_T(Length - SubLength + 1 - Index), *SubString);
+			const SIZE_T NumPlaces = SIZE_T(Length - SubLength + 1 - Index);
+			const TCHAR* const Found = std::char_traits<TCHAR>::find(Text + Index, NumPlaces, *SubString);
 			if (!Found)
 			{
 				return INDEX_NONE;

@@ -195,6 +195,12 @@ void FPaths::RemoveDuplicateSlashes(FString& InPath)
 
 bool FPaths::CollapseRelativeDirectories(FString& InPath)
 {
+	// Most paths have no such part.
+	if (!InPath.StartsWith(TEXT(".")) && !InPath.Contains(TEXT("/.")))
+	{
+		return true;
+	}
+
 	TArray<FString> Parts;
 	InPath.ParseIntoArray(Parts, TEXT("/"), false);
 

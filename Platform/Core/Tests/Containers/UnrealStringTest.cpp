@@ -38,6 +38,16 @@ TEST(String, FindIgnoresCaseAndSearchesFromEitherEnd)
 	EXPECT_FALSE(Text.Contains(TEXT("cAb"), ESearchCase::CaseSensitive));
 }
 
+TEST(String, FindBeginsWithAnyCharacter)
+{
+	const FString Text(TEXT("a\"b\"c\"Key\":\u212A"));
+	EXPECT_EQ(Text.Find(TEXT("\"kEY\":")), 5);
+	EXPECT_EQ(Text.Find(TEXT("\"kEY\":"), ESearchCase::CaseSensitive), INDEX_NONE);
+	EXPECT_EQ(Text.Find(TEXT("\":")), 9);
+	EXPECT_EQ(Text.Find(TEXT("\":\u212A?")), INDEX_NONE);
+	EXPECT_EQ(Text.Find(TEXT("k"), ESearchCase::IgnoreCase, ESearchDir::FromStart, 7), 11) << "the Kelvin sign is a capital k";
+}
+
 TEST(String, FindCharAndFindLastCharAreExact)
 {
 	int32 Index = 0;

@@ -73,6 +73,15 @@ public:
 		return Char;
 	}
 
+	/** White space stands between strings, where no character needs a second look. */
+	void SkipWhitespace()
+	{
+		while (*Current == ' ' || *Current == '\t' || *Current == '\n' || *Current == '\r')
+		{
+			++Current;
+		}
+	}
+
 	size_t Tell() const { return size_t(Current - Begin); }
 	bool IsAtEnd() const { return Current == End; }
 
@@ -144,6 +153,19 @@ private:
 	bool bEscaped = false;
 };
 
+}
+
+namespace rapidjson
+{
+template <>
+inline void SkipWhitespace(FTextStream& Stream)
+{
+	Stream.SkipWhitespace();
+}
+}
+
+namespace
+{
 /** Makes values of what the tokenizer meets. */
 class FValueBuilder
 {

@@ -45,12 +45,12 @@ TEST(JsonObject, FindsNamesInAnyCase)
 	EXPECT_FALSE(Object->HasTypedField<EJson::Array>(TEXT("INNER")));
 }
 
-// A name that comes again (in any case) keeps the first place and takes the later value.
-TEST(JsonObject, ARepeatedNameKeepsItsPlaceAndTakesTheLaterValue)
+// A name that comes again (in any case) keeps the first place and takes the later spelling and value.
+TEST(JsonObject, ARepeatedNameKeepsItsPlaceAndTakesTheLaterSpellingAndValue)
 {
 	const TSharedRef<FJsonObject> Object = Parse(TEXT("{\"a\":1,\"b\":2,\"A\":3,\"c\":4}"));
 	EXPECT_EQ(Object->Values.Num(), 3);
-	EXPECT_EQ(Join(*Object), TEXT("a=3;b=2;c=4;"));
+	EXPECT_EQ(Join(*Object), TEXT("A=3;b=2;c=4;"));
 }
 
 TEST(JsonObject, PlainGettersSayThatAFieldIsMissing)
