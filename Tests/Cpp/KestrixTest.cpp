@@ -4,12 +4,16 @@
 #include "HAL/IConsoleManager.h"
 #include "KestrixLog.h"
 #include "RunningPlugin.h"
+#include "Styling/AppStyle.h"
 #include "ToolTabs.h"
 #include "Velmora/VelmoraData.h"
 #include "Velmora/VelmoraGenerator.h"
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Text/STextBlock.h"
 
 #include <gtest/gtest.h>
 
@@ -95,10 +99,15 @@ TEST(KestrixModule, ToolsTabHoldsAButtonAndAField)
 	EXPECT_EQ(Tab->GetTabRole(), ETabRole::NomadTab);
 	const TSharedRef<SWidget> Panel = Tab->GetContent();
 	EXPECT_EQ(Panel->GetType(), FName("SToolsCompoundWidget"));
+	ASSERT_EQ(ChildOf(Panel)->GetType(), FName("SBorder"));
+	EXPECT_EQ(BorderImageOf(As<SBorder>(ChildOf(Panel))), FAppStyle::Get().GetOptionalBrush("ToolPanel.GroupBorder"));
 	const TSharedRef<SWidget> Column = ChildOf(ChildOf(Panel));
+	ASSERT_EQ(Column->GetType(), FName("SVerticalBox"));
 	ASSERT_EQ(Column->GetChildren()->Num(), 2);
-	EXPECT_EQ(Outline(ChildOf(Column, 0)), FString(TEXT("SButton[STextBlock]")));
-	EXPECT_EQ(ChildOf(Column, 1)->GetType(), FName("SEditableTextBox"));
+	ASSERT_EQ(Outline(ChildOf(Column, 0)), FString(TEXT("SButton[STextBlock]")));
+	EXPECT_EQ(As<STextBlock>(ChildOf(ChildOf(Column, 0)))->GetText().ToString(), FString(TEXT("Click Me")));
+	ASSERT_EQ(ChildOf(Column, 1)->GetType(), FName("SEditableTextBox"));
+	EXPECT_EQ(As<SEditableTextBox>(ChildOf(Column, 1))->GetText().ToString(), FString());
 
 	Plugin.Window.Frame();
 	Plugin.Window.Click(ChildOf(Column, 0));
@@ -163,6 +172,23 @@ TEST(KestrixModule, ToolThatIsOpenAtTheEndStaysAndClosesLater)
 
 	Tab->RequestCloseTab();
 	EXPECT_EQ(Plugin.Python.Take(), TArray<FString>({TEXT("bye()")}));
+}
+
+TEST(KestrixModule, TabsAreNoLongerFollowedOnceTheHooksAreGone)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("A.json"), ToolWithRoot("{ \"SBox\": {} }"));
+	const FTab A = FindTab(Plugin.Project.Path(TEXT("KX/Kestrix/Python/A.json")));
+	Plugin.Launch(TEXT("B.json"), ToolWithRoot("{ \"SBox\": {} }"));
+	Plugin.EndModule();
+	FKestrixModule Module;
+	Module.RegisterEditorHooks();
+
+	Module.UnregisterEditorHooks();
+	A->ActivateInParent(ETabActivationCause::SetDirectly);
+
+	EXPECT_TRUE(A->IsActive());
+	EXPECT_EQ(Module.GetRecentTabs().Num(), 0);
 }
 
 TEST(KestrixModule, StartsAgainAfterItsEnd)

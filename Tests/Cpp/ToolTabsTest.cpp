@@ -1,9 +1,12 @@
 #include "ToolTabs.h"
 
+#include "Brushes/SlateColorBrush.h"
 #include "Framework/Docking/TabManager.h"
 #include "LogCapture.h"
 #include "ProfilingDebugging/CpuProfilerTrace.h"
 #include "RunningPlugin.h"
+#include "Styling/SlateStyle.h"
+#include "Styling/SlateStyleRegistry.h"
 #include "Velmora/SVelmoraWidget.h"
 #include "Velmora/VelmoraData.h"
 #include "Velmora/WidgetTree.h"
@@ -22,6 +25,14 @@ const FString EmptyTool = ToolWithRoot("{ \"SBox\": {} }");
 FString Line(const TCHAR* Verbosity, const FString& Text)
 {
 	return FString::Printf(TEXT("PythonKX: %s: %s"), Verbosity, *Text);
+}
+
+int32 CountPixels(FSlateTestWindow& Window, const FColor& Color)
+{
+	TArray<FColor> Pixels;
+	FIntVector Size;
+	FSlateApplication::Get().TakeScreenshot(Window.GetWindow().AsShared(), Pixels, Size);
+	return Pixels.FilterByPredicate([&Color](const FColor& Pixel) { return Pixel == Color; }).Num();
 }
 
 FString ContentText(const TSharedRef<SDockTab>& Tab)
@@ -55,6 +66,25 @@ TEST(ToolTabs, TabShowsTheToolUnderItsLabel)
 	EXPECT_EQ(As<SVelmoraWidget>(A->GetContent())->DataObj, FKestrixModule::Get().GetToolsDataInstanceByName(PathOfA));
 	EXPECT_EQ(FindTab(Plugin.Project.Path(TEXT("KX/Kestrix/Python/B.json")))->GetTabLabel().ToString(),
 		FString(TEXT("Python Velmora Tools")));
+}
+
+TEST(ToolTabs, TabShowsTheToolIconOfTheStyleSet)
+{
+	FSlateStyleSet Style("VelmoraStyle");
+	FSlateBrush* const Icon = new FSlateColorBrush(FLinearColor::Red);
+	Icon->ImageSize = FVector2D(16.0, 16.0);
+	Style.Set("PythonVelmoraTools.Small", Icon);
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("A.json"), EmptyTool);
+	EXPECT_EQ(CountPixels(Plugin.Window, FColor::Red), 0);
+	UVelmoraData::RequestClose(TEXT("A.json"));
+	FSlateStyleRegistry::RegisterSlateStyle(Style);
+
+	Plugin.Launch(TEXT("A.json"), EmptyTool);
+
+	EXPECT_EQ(CountPixels(Plugin.Window, FColor::Red), 16 * 16);
+	UVelmoraData::RequestClose(TEXT("A.json"));
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
 }
 
 TEST(ToolTabs, RegistrationKeepsTheFirstLabelAndSaysSoOnce)
@@ -92,6 +122,7 @@ TEST(ToolTabs, DataPathThatNamesNoPackageIsAnErrorAndTheToolOpensAllTheSame)
 	EXPECT_EQ(Log.Errors(),
 		FLines({TEXT("Json File can't find: VelmoraData, Default data used. @ /Game/None"),
 			TEXT("Get VelmoraDataPath failed /Game/None"), TEXT("Json File can't find: InitPyCmd  ") + Path}));
+	EXPECT_FALSE(Log.HasLine(Line(TEXT("Log"), TEXT("Load VelmoraData @Path: /Game/None"))));
 	EXPECT_EQ(FKestrixModule::Get().GetToolsDataInstanceByName(Path)->GetClass(), UVelmoraData::StaticClass());
 }
 
@@ -106,7 +137,7 @@ TEST(ToolTabs, InitCommandRunsOnceTheWidgetsAreThereWithThePathInQuotes)
 
 	const FString Command = FString::Printf(TEXT("init(\"%s\", \"%s\")"), *Path, *Path);
 	EXPECT_EQ(Plugin.Python.Take(), FLines({Command}));
-	EXPECT_TRUE(Log.Lines().Contains(Line(TEXT("Log"), TEXT("InitPyCmd: ") + Command)));
+	EXPECT_TRUE(Log.HasLine(Line(TEXT("Log"), TEXT("InitPyCmd: ") + Command)));
 	EXPECT_TRUE(FKestrixModule::Get().GetToolsDataInstanceByName(Path)->GetNamedWidget("Box").IsValid());
 }
 
@@ -135,7 +166,23 @@ TEST(ToolTabs, ToolWithoutAnInitCommandNeverGetsItsMapCommandRecorded)
 	EXPECT_EQ(MapChangeCommands.Num(), 0);
 	EXPECT_EQ(Plugin.Python.Take(), FLines());
 	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json File can't find: InitPyCmd  ") + Path}));
-	EXPECT_TRUE(Log.Lines().Contains(Line(TEXT("Log"), TEXT("InitPytools skipped, cmd: "))));
+	EXPECT_TRUE(Log.HasLine(Line(TEXT("Log"), TEXT("InitPytools skipped, cmd: "))));
+}
+
+TEST(ToolTabs, FileThatItsInitCommandBreaksIsAnErrorAndRecordsNoMapCommand)
+{
+	FRunningPlugin Plugin;
+	const FString Path =
+		Plugin.WriteTool(TEXT("A.json"), R"json({ "InitPyCmd": "i", "OnMapChangedCmd": "map()", "Root": { "SBox": {} } })json");
+	Plugin.Python.SetOnCommand([&Plugin] { Plugin.WriteTool(TEXT("A.json"), TEXT("{ nonsense")); });
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
+
+	EXPECT_EQ(Plugin.Python.Take(), FLines({TEXT("i")}));
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json object is not Valid ") + Path}));
+	EXPECT_EQ(MapChangeCommands.Num(), 0);
+	EXPECT_EQ(OpenToolTabs.Num(), 1);
 }
 
 TEST(ToolTabs, MapCommandIsRecordedByShortPathAndStaysWhenTheToolCloses)
@@ -148,8 +195,7 @@ TEST(ToolTabs, MapCommandIsRecordedByShortPathAndStaysWhenTheToolCloses)
 
 	ASSERT_EQ(MapChangeCommands.Num(), 1);
 	EXPECT_EQ(MapChangeCommands.FindRef(TEXT("T/A.json")), FString(TEXT("map(%world)")));
-	EXPECT_TRUE(
-		Log.Lines().Contains(Line(TEXT("Log"), TEXT("InitPytool's OnMapChangeCommand, ShortName: T/A.json, cmd: map(%world)"))));
+	EXPECT_TRUE(Log.HasLine(Line(TEXT("Log"), TEXT("InitPytool's OnMapChangeCommand, ShortName: T/A.json, cmd: map(%world)"))));
 }
 
 TEST(ToolTabs, ToolOpenedAgainOverwritesItsMapCommandAndLeavesItWithoutAnother)
@@ -221,7 +267,7 @@ TEST(ToolTabs, FileThatBreaksAfterItsRegistrationShowsTheReasonInItsTab)
 
 	EXPECT_EQ(ContentText(FindTab(Path)), TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' "));
 	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json object is not Valid ") + Path}));
-	EXPECT_TRUE(Log.Lines().Contains(Line(TEXT("Log"), TEXT("InitPytools skipped, cmd: "))));
+	EXPECT_TRUE(Log.HasLine(Line(TEXT("Log"), TEXT("InitPytools skipped, cmd: "))));
 }
 
 TEST(ToolTabs, DescriptionWithoutARootOpensATabThatSaysSo)

@@ -107,6 +107,24 @@ TEST(ToolsSettings, FirstUseCopiesTheDefaultFolderBeforeAnyKeyIsRead)
 	EXPECT_TRUE(MenuConfigExists);
 }
 
+TEST(ToolsSettings, CopyThatFailsIsAnErrorBehindTheWarning)
+{
+	const FSettingsProject Project;
+	Project.Write(PluginConfigName, TEXT("[Advanced]\nCopyInitialResource=True\n"));
+	Project.Write(TEXT("Plugins/Kestrix/Resources/DefaultPythonSource/KX/Theirs.txt"), TEXT("theirs"));
+	Project.Write(TEXT("KX"), TEXT("a file in the way"));
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	InitSettings();
+
+	EXPECT_EQ(Log.Warnings()[0],
+		TEXT("Copy Default UI, Config, Python ") + Project.GetDir() +
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("//KX "));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("Not all files of ") + Project.GetDir() +
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX could be copied to ") + Project.GetDir() + TEXT("//KX.")}));
+}
+
 TEST(ToolsSettings, CopySwitchedOffLeavesTheProjectWithoutTheFolder)
 {
 	const FSettingsProject Project;
@@ -239,6 +257,41 @@ TEST(ToolsSettings, GettersReadTheWrittenDefaults)
 	EXPECT_TRUE(IsSketchToolsEnabled());
 	EXPECT_FALSE(IsToolsTabOnToolbarEnabled());
 	EXPECT_TRUE(IsCopyInitialResourceEnabled());
+}
+
+TEST(ToolsSettings, EachGetterReadsAKeyOfItsOwn)
+{
+	const FSettingsProject Project;
+	Project.Write(ConfigName,
+		TEXT("[Settings]\nPythonContentFolder=/a\nMenuConfigFilePath=/b/../b.json\nVelmoraDataFolder=c\n"
+			 "[Advanced]\nMainbarExtensionHookName=d\nMainMenuExtensionHookName=e\nMaterialEditorMenuExtensionHookName=f\n"
+			 "SButtonHorizontalPadding=7\nLogNumberLimit=8\n"));
+
+	EXPECT_EQ(GetPythonContentFolder(), Project.GetDir() + TEXT("//a"));
+	EXPECT_EQ(GetMenuConfigFilePath(), Project.Path(TEXT("b.json")));
+	EXPECT_EQ(GetVelmoraDataFolder(), FString(TEXT("c")));
+	EXPECT_EQ(GetMainbarExtensionHookName(), FName("d"));
+	EXPECT_EQ(GetMainMenuExtensionHookName(), FName("e"));
+	EXPECT_EQ(GetMaterialEditorMenuExtensionHookName(), FName("f"));
+	EXPECT_EQ(GetSButtonHorizontalPadding(), 7);
+	EXPECT_EQ(GetLogNumberLimit(), 8);
+}
+
+TEST(ToolsSettings, EachSwitchReadsAKeyOfItsOwn)
+{
+	const FSettingsProject Project;
+	bool (*const Switches[])() = {&IsMenusOnToolbarEnabled, &IsSketchToolsEnabled, &IsToolsTabOnToolbarEnabled};
+	const TCHAR* const Keys[] = {TEXT("MenusOnToolbarEnabled"), TEXT("SketchToolsEnabled"), TEXT("ToolsTabOnToolbarEnabled")};
+
+	for (int32 On = 0; On < 3; ++On)
+	{
+		GConfig->SetBool(TEXT("Advanced"), Keys[On], true, SettingsPaths.ConfigFile);
+		for (int32 Index = 0; Index < 3; ++Index)
+		{
+			EXPECT_EQ(Switches[Index](), Index == On) << TCHAR_TO_UTF8(Keys[Index]);
+		}
+		GConfig->SetBool(TEXT("Advanced"), Keys[On], false, SettingsPaths.ConfigFile);
+	}
 }
 
 TEST(ToolsSettings, AbsolutePathOfAToolIsTakenAgainstTheFolderOfTheSources)

@@ -32,6 +32,12 @@ TArray<FString> FLogCapture::Lines() const
 	return Lines;
 }
 
+bool FLogCapture::HasLine(const FString& Line) const
+{
+	return Lines().ContainsByPredicate(
+		[&Line](const FString& Logged) { return Logged.Equals(Line, ESearchCase::CaseSensitive); });
+}
+
 void FLogCapture::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& InCategory)
 {
 	if (Category.IsNone() || Category == InCategory)

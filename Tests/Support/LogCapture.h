@@ -18,6 +18,9 @@ public:
 	/** Every line as "Category: Verbosity: text", with the verbosity also for Log. */
 	TArray<FString> Lines() const;
 
+	/** Whether that line is among Lines(), letter for letter. */
+	bool HasLine(const FString& Line) const;
+
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
 
 private:

@@ -27,8 +27,14 @@ bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, 
 	const TSharedPtr<SWidget> FocusedWidget = Application.GetKeyboardFocusedWidget();
 	const TSharedPtr<SWindow> ActiveWindow = Application.GetActiveTopLevelWindow();
 
-	const TSharedRef<SWindow> Window =
-		SNew(SWindow).ClientSize(Size).AutoCenter(EAutoCenter::None).ScreenPosition(FVector2D::ZeroVector);
+	// A picture may be larger than the screen.
+	// clang-format off
+	const TSharedRef<SWindow> Window = SNew(SWindow)
+		.ClientSize(Size)
+		.AutoCenter(EAutoCenter::None)
+		.ScreenPosition(FVector2D::ZeroVector)
+		.SaneWindowPlacement(false);
+	// clang-format on
 	Window->SetContent(Widget.ToSharedRef());
 	Application.AddWindow(Window, /* bShowImmediately */ false);
 	Window->ShowWindow();

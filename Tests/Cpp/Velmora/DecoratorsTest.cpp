@@ -2,6 +2,7 @@
 
 #include "Dom/JsonObject.h"
 #include "LogCapture.h"
+#include "SlateTestWindow.h"
 #include "Styling/AppStyle.h"
 #include "Velmora/JsonText.h"
 #include "Velmora/ScopedButtonPadding.h"
@@ -41,10 +42,68 @@ class SDropTarget : public SBox
 class SGridPanel : public SBox
 {
 };
+
+class SSeparator : public SBox
+{
+};
+
+/** A widget at the top of a window, as wide as the window, and the pixels that show it. */
+struct FShown
+{
+	static constexpr int32 Width = 300;
+
+	explicit FShown(const TSharedRef<SWidget>& InWidget)
+		: Widget(InWidget)
+		, Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[InWidget], FVector2D(Width, 100.0))
+	{
+	}
+
+	/** The pixels of the window, row by row from the top. */
+	TArray<FColor> TakePixels()
+	{
+		TArray<FColor> Pixels;
+		FIntVector Size;
+		EXPECT_TRUE(FSlateApplication::Get().TakeScreenshot(Window.GetWindow().AsShared(), Pixels, Size));
+		return Pixels;
+	}
+
+	/** The column where the text of the widget begins; frames and bars at the sides stay out of account. */
+	int32 TextBegin()
+	{
+		constexpr int32 Side = 20;
+		const TArray<FColor> Pixels = TakePixels();
+		const int32 Middle = static_cast<int32>(Window.MiddleOf(*Widget).Y);
+		for (int32 X = Side; X < Width - Side; ++X)
+		{
+			for (int32 Y = Middle - 4; Y < Middle + 4; ++Y)
+			{
+				if (Pixels[Y * Width + X] != Pixels[Middle * Width + Side])
+				{
+					return X;
+				}
+			}
+		}
+		return INDEX_NONE;
+	}
+
+	/** After what was changed by hand has come to the screen. */
+	double Height()
+	{
+		FSlateApplication::Get().RequestFrame();
+		Window.Frame();
+		return Widget->GetDesiredSize().Y;
+	}
+
+	TSharedRef<SWidget> Widget;
+	FSlateTestWindow Window;
+};
 }
 
-TEST(Decorators, ColorOnADropTargetIsNotHandled)
+TEST(Decorators, ColorOnADropTargetIsReadAndNotHandled)
 {
+	EXPECT_EQ(DecorateAndLog(SNew(SDropTarget), TEXT("ColorAndOpacity"), "5"),
+			  FLines({TEXT("Velmora: Error: ParseLinearColorValues JsonValue Type Error, Need Array"),
+					  TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
 	EXPECT_EQ(DecorateAndLog(SNew(SDropTarget), TEXT("ColorAndOpacity"), "[1, 0, 0]"),
 			  FLines({TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
 }
@@ -113,7 +172,8 @@ TEST(Decorators, AlignmentMovesTheContentOfABoxAndAButton)
 
 	const TSharedRef<SButton> Button = SNew(SButton)[SNew(SBox).WidthOverride(10.0f).HeightOverride(10.0f)];
 	DecorateAndLog(Button, TEXT("HAlign"), R"("Center")");
-	EXPECT_EQ(ArrangeChild(Button, FVector2D(100.0, 50.0)).Size.X, 10.0);
+	DecorateAndLog(Button, TEXT("VAlign"), R"("Center")");
+	EXPECT_EQ(ArrangeChild(Button, FVector2D(100.0, 50.0)).Size, FVector2D(10.0, 10.0));
 }
 
 TEST(Decorators, UnknownVisibilityDrawsOnlyTheParsersError)
@@ -185,11 +245,17 @@ TEST(Decorators, PaddingOfABoxSurroundsItsContent)
 	const FChildRect Rect = ArrangeChild(Box, FVector2D(100.0, 50.0));
 	EXPECT_EQ(Rect.Position, FVector2D(1.0, 2.0));
 	EXPECT_EQ(Rect.Size, FVector2D(96.0, 44.0));
+
+	EXPECT_EQ(DecorateAndLog(Box, TEXT("Padding"), R"("wide")"),
+			  FLines({TEXT("Velmora: Error: ParsePaddingValues JsonValue Type Error, Need(Number / Array)")}));
+	EXPECT_EQ(ArrangeChild(Box, FVector2D(100.0, 50.0)).Size, FVector2D(100.0, 50.0));
 }
 
 TEST(Decorators, SlotPaddingOnOtherWidgetsIsIgnoredWithoutAWord)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SVerticalBox), TEXT("SlotPadding"), "3"), FLines());
+	EXPECT_EQ(DecorateAndLog(SNew(SVerticalBox), TEXT("SlotPadding"), "{}"),
+			  FLines({TEXT("Velmora: Error: ParseMargin JsonValue Type Error, Need(Number / Array)")}));
 }
 
 TEST(Decorators, KeyThatCannotReachTheTableIsUnknown)
@@ -277,6 +343,72 @@ TEST(Decorators, TextKeysOfTheTextWidgets)
 	EXPECT_TRUE(Area->IsReadOnly());
 }
 
+TEST(Decorators, JustificationMovesTheTextOfEveryTextWidget)
+{
+	for (const TSharedRef<SWidget>& Widget : TArray<TSharedRef<SWidget>>{SNew(STextBlock), SNew(SEditableTextBox),
+																		 SNew(SMultiLineEditableTextBox)})
+	{
+		DecorateAndLog(Widget, TEXT("Text"), R"("word word")");
+		DecorateAndLog(Widget, TEXT("Justification"), R"("Right")");
+
+		EXPECT_GT(FShown(Widget).TextBegin(), FShown::Width / 2) << TCHAR_TO_UTF8(*Widget->GetType().ToString());
+	}
+}
+
+TEST(Decorators, WrappedTextTakesMoreRows)
+{
+	for (const TSharedRef<SWidget>& Widget : TArray<TSharedRef<SWidget>>{SNew(STextBlock), SNew(SMultiLineEditableTextBox)})
+	{
+		const FString Words = FString::ChrN(200, TEXT('w')).Replace(TEXT("www"), TEXT("ww "));
+		DecorateAndLog(Widget, TEXT("Text"), TCHAR_TO_UTF8(*(TEXT("\"") + Words + TEXT("\""))));
+		FShown Shown(Widget);
+		const double OneRow = Shown.Height();
+
+		DecorateAndLog(Widget, TEXT("AutoWrapText"), "true");
+
+		EXPECT_GT(Shown.Height(), OneRow + 10.0) << TCHAR_TO_UTF8(*Widget->GetType().ToString());
+	}
+}
+
+TEST(Decorators, LineHeightPercentageSpreadsTheRows)
+{
+	for (const TSharedRef<SWidget>& Widget : TArray<TSharedRef<SWidget>>{SNew(STextBlock), SNew(SMultiLineEditableTextBox)})
+	{
+		DecorateAndLog(Widget, TEXT("Text"), R"("a\nb\nc")");
+		FShown Shown(Widget);
+		const double Single = Shown.Height();
+
+		DecorateAndLog(Widget, TEXT("LineHeightPercentage"), "2");
+
+		EXPECT_GT(Shown.Height(), Single + 20.0) << TCHAR_TO_UTF8(*Widget->GetType().ToString());
+	}
+}
+
+TEST(Decorators, FocusSelectsAllTextOfAField)
+{
+	const TSharedRef<SEditableTextBox> Field = SNew(SEditableTextBox).Text(FText::FromString(TEXT("before")));
+	DecorateAndLog(Field, TEXT("SelectAllTextWhenFocused"), "true");
+	FShown Shown(Field);
+
+	Shown.Window.Click(Field);
+
+	EXPECT_EQ(Field->GetSelectedText().ToString(), FString(TEXT("before")));
+}
+
+TEST(Decorators, StyleReplacesTheFrameOfATextBox)
+{
+	const FEditableTextBoxStyle& Style = FAppStyle::Get().GetWidgetStyle<FEditableTextBoxStyle>("NoSuchStyle");
+	for (const TSharedRef<SBorder>& Box : TArray<TSharedRef<SBorder>>{SNew(SEditableTextBox), SNew(SMultiLineEditableTextBox)})
+	{
+		const std::string Type = TCHAR_TO_UTF8(*Box->GetType().ToString());
+		ASSERT_NE(BorderImageOf(Box), &Style.BackgroundImageNormal) << Type;
+
+		EXPECT_EQ(DecorateAndLog(Box, TEXT("Style"), R"({ "Style": "FAppStyle", "StyleName": "NoSuchStyle" })"), FLines()) << Type;
+
+		EXPECT_EQ(BorderImageOf(Box), &Style.BackgroundImageNormal) << Type;
+	}
+}
+
 TEST(Decorators, MultiLineBoxCannotSelectAllText)
 {
 	EXPECT_EQ(
@@ -301,10 +433,33 @@ TEST(Decorators, LooksOfATextBlock)
 		const FLines Lines = DecorateAndLog(Block, Key, "5");
 		EXPECT_EQ(Lines.Last(), FString::Printf(TEXT("Velmora: Warning: Decorate: %s @ STextBlock not handled, @ /Path"), Key));
 	}
-	EXPECT_EQ(DecorateAndLog(Block, TEXT("ShadowOffset"), "[1, 1]"), FLines());
-	EXPECT_EQ(DecorateAndLog(Block, TEXT("ShadowColorAndOpacity"), "[0, 0, 0]"), FLines());
-	EXPECT_EQ(DecorateAndLog(Block, TEXT("TextStyle"), R"({ "Style": "FAppStyle", "StyleName": "NormalText" })"), FLines());
-	EXPECT_EQ(DecorateAndLog(Block, TEXT("AutoWrapText"), "true"), FLines());
+}
+
+TEST(Decorators, StyleOfATextBlockGivesItsFont)
+{
+	const TSharedRef<STextBlock> Block = SNew(STextBlock);
+
+	EXPECT_EQ(DecorateAndLog(Block, TEXT("TextStyle"), R"({ "Style": "FAppStyle", "StyleName": "LargeText" })"), FLines());
+
+	EXPECT_TRUE(Block->GetFont() == FAppStyle::Get().GetWidgetStyle<FTextBlockStyle>("LargeText").Font);
+}
+
+TEST(Decorators, ShadowOfATextBlockIsPaintedAtItsOffsetInItsColor)
+{
+	const TSharedRef<STextBlock> Block = SNew(STextBlock).Text(FText::FromString(TEXT("word")));
+	FShown Shown(Block);
+	const auto CountGreen = [&Shown]
+	{
+		return Shown.TakePixels().FilterByPredicate([](const FColor& Pixel) { return Pixel.G > Pixel.R + 100; }).Num();
+	};
+	EXPECT_EQ(CountGreen(), 0);
+
+	EXPECT_EQ(DecorateAndLog(Block, TEXT("ShadowOffset"), "[100, 0]"), FLines());
+	EXPECT_EQ(DecorateAndLog(Block, TEXT("ShadowColorAndOpacity"), "[0, 1, 0]"), FLines());
+	FSlateApplication::Get().RequestFrame();
+	Shown.Window.Frame();
+
+	EXPECT_GT(CountGreen(), 10);
 }
 
 TEST(Decorators, FontOnAWidgetWithoutASetterIsReadAndNotHandled)
@@ -332,6 +487,19 @@ TEST(Decorators, BorderBackgroundColorMustParse)
 					  TEXT("Velmora: Warning: Decorate: BorderBackgroundColor @ SBorder not handled, @ /Path")}));
 
 	EXPECT_TRUE(Border->GetBorderBackgroundColor() == FSlateColor(FLinearColor(0.0f, 0.0f, 1.0f)));
+}
+
+TEST(Decorators, WrongOrientationLaysAScrollBoxDown)
+{
+	const TSharedRef<SScrollBox> ScrollBox = SNew(SScrollBox) +
+											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)] +
+											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)];
+
+	EXPECT_EQ(DecorateAndLog(ScrollBox, TEXT("Orientation"), R"("Diagonal")"),
+			  FLines({TEXT("Velmora: Error: ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical")}));
+
+	ScrollBox->SlatePrepass(1.0f);
+	EXPECT_GE(ScrollBox->GetDesiredSize().X, 60.0);
 }
 
 TEST(Decorators, ScrollBoxTurns)
@@ -369,7 +537,10 @@ TEST(Decorators, DetailedLogSaysWhoHasHandledAKey)
 	FLines Lines = DecorateAndLog(SNew(SVerticalBox), TEXT("Padding"), "1");
 	Lines += DecorateAndLog(SNew(SGridPanel), TEXT("FillColumn"), "1");
 	Lines += DecorateAndLog(SNew(SButton).Text(FText::FromString(TEXT(" "))), TEXT("Text"), R"("x")");
+	Lines += DecorateAndLog(SNew(SButton)[SNew(SBorder)], TEXT("Text"), R"("x")");
 	Lines += DecorateAndLog(SNew(SButton), TEXT("ButtonStyle"), "{}");
+	Lines += DecorateAndLog(SNew(SSeparator), TEXT("Orientation"), R"("Diagonal")");
+	Lines += DecorateAndLog(SNew(SSeparator), TEXT("Thickness"), "{}");
 	bLogCreateWidget = false;
 
 	EXPECT_EQ(Lines, FLines({TEXT("Velmora: Log: Decorate: Padding"),
@@ -377,6 +548,12 @@ TEST(Decorators, DetailedLogSaysWhoHasHandledAKey)
 							 TEXT("Velmora: Log: Decorate: FillColumn"),
 							 TEXT("Velmora: Log: FillColumn: FillColumn @ SGridPanel regard as handled.."),
 							 TEXT("Velmora: Log: Decorate: Text"), TEXT("Velmora: Log: Button content Type: STextBlock"),
+							 TEXT("Velmora: Log: Decorate: Text"), TEXT("Velmora: Log: Button content Type: SBorder"),
+							 TEXT("Velmora: Warning: Decorate: Text @ SButton not handled, @ /Path"),
 							 TEXT("Velmora: Log: Decorate: ButtonStyle"),
-							 TEXT("Velmora: Log: InbornDecorate: ButtonStyle @ SButton regard as handled..")}));
+							 TEXT("Velmora: Log: InbornDecorate: ButtonStyle @ SButton regard as handled.."),
+							 TEXT("Velmora: Log: Decorate: Orientation"),
+							 TEXT("Velmora: Log: Orientation: Orientation @ SSeparator regard as handled.."),
+							 TEXT("Velmora: Log: Decorate: Thickness"),
+							 TEXT("Velmora: Log: SSeparator: Thickness @ SSeparator regard as handled..")}));
 }

@@ -82,13 +82,38 @@ TEST(EventCommands, EmptyTextRunsNothing)
 	EXPECT_EQ(Python.Take(), FLines());
 }
 
-TEST(EventCommands, TextHandsAnEmptyCommandToTheInterpreter)
+TEST(EventCommands, TextAndCheckStateHandAnEmptyCommandToTheInterpreter)
 {
 	FPythonRecorder Python;
 
 	MakeTextChangedHandler(FString()).Execute(Text(TEXT("x")));
+	MakeTextCommittedHandler(FString()).Execute(Text(TEXT("x")), ETextCommit::Default);
+	MakeCheckHandler(FString()).Execute(ECheckBoxState::Checked);
 
-	EXPECT_EQ(Python.Take(), FLines({FString()}));
+	EXPECT_EQ(Python.Take(), FLines({FString(), FString(), FString()}));
+}
+
+TEST(EventCommands, CommitRunsWhateverHasMadeIt)
+{
+	FPythonRecorder Python;
+	const FOnTextCommitted Handler = MakeTextCommittedHandler(TEXT("commit"));
+
+	for (const ETextCommit::Type Commit :
+		 {ETextCommit::Default, ETextCommit::OnEnter, ETextCommit::OnUserMovedFocus, ETextCommit::OnCleared})
+	{
+		Handler.Execute(Text(TEXT("x")), Commit);
+	}
+
+	EXPECT_EQ(Python.Take(), FLines({TEXT("commit"), TEXT("commit"), TEXT("commit"), TEXT("commit")}));
+}
+
+TEST(EventCommands, InsertedTextIsNotSearchedForPlaceholders)
+{
+	FPythonRecorder Python;
+
+	MakeTextChangedHandler(TEXT("f(%)")).Execute(Text(TEXT("%%")));
+
+	EXPECT_EQ(Python.Take(), FLines({TEXT("f('''%%''')")}));
 }
 
 TEST(EventCommands, TickRunsItsCommandAndGoesOn)
@@ -114,7 +139,9 @@ TEST(EventCommands, DetailedLogTellsTheClick)
 	MakeClickHandler(TEXT("quiet()")).Execute();
 	bLogCreateWidget = true;
 	MakeClickHandler(TEXT("loud()")).Execute();
+	MakeClickHandler(FString()).Execute();
 	bLogCreateWidget = false;
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: Button Clicked. Command: loud()")}));
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: Button Clicked. Command: loud()"),
+								   TEXT("Velmora: Log: Button Clicked. Command: ")}));
 }

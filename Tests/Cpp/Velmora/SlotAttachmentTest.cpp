@@ -51,11 +51,13 @@ TEST(SlotAttachment, ZeroIsAFillAndMinusOneIsNone)
 	ExpectRect(ArrangeSlot("SVerticalBox", R"("FillHeight": 0, )"), 0, 0, 100, 0);
 	ExpectRect(ArrangeSlot("SVerticalBox", R"("FillHeight": -1, )"), 0, 0, 100, 200);
 	ExpectRect(ArrangeSlot("SHorizontalBox", R"("FillWidth": 0, )"), 0, 0, 0, 200);
+	ExpectRect(ArrangeSlot("SHorizontalBox", R"("FillWidth": -1, )"), 0, 0, 100, 200);
 }
 
 TEST(SlotAttachment, FillAfterAutoDecides)
 {
 	ExpectRect(ArrangeSlot("SVerticalBox", R"("FillHeight": 1, "AutoHeight": true, )"), 0, 0, 100, 200);
+	ExpectRect(ArrangeSlot("SHorizontalBox", R"("FillWidth": 1, "AutoWidth": true, )"), 0, 0, 100, 200);
 }
 
 TEST(SlotAttachment, AlignmentPlacesTheChild)
@@ -86,6 +88,18 @@ TEST(SlotAttachment, WrongValuesLeaveTheDefaults)
 									TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right")}));
 }
 
+TEST(SlotAttachment, SwitchesConvertAsJsonValuesDoAndFillsAreNumbersOnly)
+{
+	const FSlotRequest Request = ReadSlotRequest(
+		*JsonObject(R"({ "autoheight": 1, "AUTOWIDTH": "yes", "fillwidth": 2.5, "FillHeight": true, "valign": "top" })"));
+
+	EXPECT_TRUE(Request.bAutoHeight);
+	EXPECT_TRUE(Request.bAutoWidth);
+	EXPECT_EQ(Request.FillWidth, 2.5f);
+	EXPECT_EQ(Request.FillHeight, FSlotRequest::NoFill);
+	EXPECT_EQ(Request.VAlign, VAlign_Top);
+}
+
 TEST(SlotAttachment, ScrollBoxTakesPaddedChildren)
 {
 	const FLogCapture Log(TEXT("Velmora"));
@@ -95,6 +109,25 @@ TEST(SlotAttachment, ScrollBoxTakesPaddedChildren)
 
 	EXPECT_TRUE(Outline(Tree).Contains(TEXT("[SBorder SBox]")));
 	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(SlotAttachment, ScrollBoxPadsItsChildrenAndReadsNothingElse)
+{
+	const auto DesiredSize = [](const char* SlotKeys)
+	{
+		const std::string Root = std::string(R"({ "SScrollBox": { "Slots": [ { )") + SlotKeys +
+								 R"("SBox": { "WidthOverride": 10, "HeightOverride": 20 } } ] } })";
+		const TSharedRef<SWidget> Panel = BuildTree(Root.c_str());
+		Panel->SlatePrepass(1.0f);
+		return Panel->GetDesiredSize();
+	};
+	EXPECT_EQ(DesiredSize(R"("Padding": [3, 5], )") - DesiredSize(""), FVector2D(6.0, 10.0));
+
+	const FLogCapture Log(TEXT("Velmora"));
+	DesiredSize(R"("HAlign": "Right", "AutoHeight": true, )");
+	EXPECT_EQ(Log.Lines(),
+			  FLines({TEXT("Velmora: Warning: Decorate: HAlign @ SScrollBox not handled, @ /SScrollBox/Slots_0"),
+					  TEXT("Velmora: Warning: Decorate: AutoHeight @ SScrollBox not handled, @ /SScrollBox/Slots_0")}));
 }
 
 TEST(SlotAttachment, WidgetThatIsNoPanelLosesTheChild)
@@ -129,4 +162,23 @@ TEST(SlotAttachment, DetailedLogTellsThePadding)
 							 TEXT("Velmora: Log: \tApply padding 1.000000 2.000000"), First,
 							 TEXT("Velmora: Log: \tApply padding 1.000000 2.000000 3.000000 4.000000"), First,
 							 TEXT("Velmora: Error: Apply ParsePaddingValues Error Array Size: 3")}));
+}
+
+TEST(SlotAttachment, DetailedLogTellsTheFirstNumberOfAHorizontalBoxOnly)
+{
+	const TSharedRef<SWidget> Child = BuildTree(R"({ "SBox": {} })");
+	const TSharedRef<SWidget> Column = BuildTree(R"({ "SVerticalBox": {} })");
+	const TSharedRef<SWidget> Row = BuildTree(R"({ "SHorizontalBox": {} })");
+	FSlotRequest Request;
+	const FLogCapture Log(TEXT("Velmora"));
+
+	bLogCreateWidget = true;
+	AttachWidget(Row, Child, Request);
+	Request.PaddingValues = {1};
+	AttachWidget(Column, Child, Request);
+	bLogCreateWidget = false;
+	Request.PaddingValues = {1, 2, 3};
+	AttachWidget(Column, Child, Request);
+
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: \tApply padding 1.000000  ")}));
 }

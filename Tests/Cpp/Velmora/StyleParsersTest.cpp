@@ -39,16 +39,47 @@ TEST(ParseFontInfo, DefaultFontAloneIsRegularWithoutASize)
 	EXPECT_EQ(Font.Size, -1);
 }
 
-TEST(ParseFontInfo, NumberBehindTheLastDotIsTheSizeOfAnEditorFont)
+TEST(ParseFontInfo, NameWithASizeIsLookedUpByAsManyLettersAsTheSizeHas)
 {
+	FSlateFontInfo Expected = FAppStyle::Get().GetFontStyle("Bo");
+	Expected.Size = 17;
+	ASSERT_FALSE(Expected.TypefaceFontName == FAppStyle::Get().GetFontStyle("BoldFont").TypefaceFontName);
 	for (const char* Style : {"FEditorStyle", "FAppStyle", "FCoreStyle"})
 	{
 		FSlateFontInfo Font;
-		const std::string Json = std::string(R"({ "Style": ")") + Style + R"(", "StyleName": "NormalFont.17" })";
+		const std::string Json = std::string(R"({ "Style": ")") + Style + R"(", "StyleName": "BoldFont.17" })";
 
 		EXPECT_TRUE(ParseFontInfo(JsonValue(Json.c_str()), Font)) << Style;
 
-		EXPECT_EQ(Font.Size, 17) << Style;
+		EXPECT_TRUE(Font == Expected) << Style;
+	}
+}
+
+TEST(ParseFontInfo, DefaultFontHasAFaceOnlyInTheCoreStyleAndBetweenTwoDots)
+{
+	FSlateFontInfo Expected = FAppStyle::Get().GetFontStyle("De");
+	Expected.Size = 10;
+	for (const char* Json : {R"({ "Style": "FCoreStyle", "StyleName": "DefaultFont.10" })",
+							 R"({ "Style": "FAppStyle", "StyleName": "DefaultFont.Bold.10" })"})
+	{
+		FSlateFontInfo Font;
+
+		EXPECT_TRUE(ParseFontInfo(JsonValue(Json), Font)) << Json;
+
+		EXPECT_TRUE(Font == Expected) << Json;
+	}
+}
+
+TEST(ParseFontInfo, TextBehindTheDotThatIsNoSizeBelongsToTheName)
+{
+	for (const char* Name : {"BoldFont.Wide", "BoldFont.-1", "BoldFont.1x"})
+	{
+		FSlateFontInfo Font;
+		const std::string Json = std::string(R"({ "Style": "FAppStyle", "StyleName": ")") + Name + R"(" })";
+
+		EXPECT_TRUE(ParseFontInfo(JsonValue(Json.c_str()), Font)) << Name;
+
+		EXPECT_TRUE(Font == FAppStyle::Get().GetFontStyle(FName(Name))) << Name;
 	}
 }
 
@@ -121,15 +152,6 @@ TEST(ParseStyleBrush, EveryFaultGivesTheBrushWithoutABorder)
 				Default}));
 }
 
-TEST(ParseWidgetStyle, NamesAStyleOfTheEditor)
-{
-	const FButtonStyle* Style = nullptr;
-
-	EXPECT_TRUE(ParseWidgetStyle(JsonValue(R"({ "Style": "FCoreStyle", "StyleName": "Button" })"), Style));
-
-	EXPECT_EQ(Style, &FAppStyle::Get().GetWidgetStyle<FButtonStyle>("Button"));
-}
-
 TEST(ParseWidgetStyle, EveryFaultLeavesTheOutputAndSpeaksOfAFont)
 {
 	const FLogCapture Log(TEXT("Velmora"));
@@ -145,6 +167,19 @@ TEST(ParseWidgetStyle, EveryFaultLeavesTheOutputAndSpeaksOfAFont)
 								   TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
 								   TEXT("Velmora: Warning: Style: Mine Not Support yet"),
 								   TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
+}
+
+TEST(ParseWidgetStyle, AllThreeStyleSetsLeadToOne)
+{
+	for (const char* Set : {"FCoreStyle", "feditorstyle", "FAppStyle"})
+	{
+		const FButtonStyle* Style = nullptr;
+		const std::string Json = std::string(R"({ "Style": ")") + Set + R"(", "StyleName": "SimpleButton" })";
+
+		EXPECT_TRUE(ParseWidgetStyle(JsonValue(Json.c_str()), Style)) << Set;
+
+		EXPECT_EQ(Style, &FAppStyle::Get().GetWidgetStyle<FButtonStyle>("SimpleButton")) << Set;
+	}
 }
 
 TEST(StyleParsers, DetailedLogNamesWhatIsLookedUp)

@@ -128,6 +128,18 @@ TEST(ToolDescription, CycleOfTwoFilesStopsAtTheSecondTurn)
 	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile A.json has already import in parents, recursively import")}));
 }
 
+TEST(ToolDescription, FileIsReadAnewAtEachCall)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\"ExternalJson\": \"Part.json\"\n}");
+	FString Error;
+
+	Folder.Write(TEXT("Part.json"), R"("A": "1")");
+	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("A")), FString(TEXT("1")));
+	Folder.Write(TEXT("Part.json"), R"("A": "2")");
+	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("A")), FString(TEXT("2")));
+}
+
 TEST(ToolDescription, AbsoluteInclusionIsUsedAsItStands)
 {
 	const FTempProject Folder;
@@ -366,6 +378,35 @@ TEST(DataAndTabLabel, MissingKeysSayNothingAndKeepTheLabel)
 	EXPECT_EQ(DataPath, FString());
 	EXPECT_EQ(Label, FString(TEXT("before")));
 	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(DataAndTabLabel, ValuesThatAreNoTextAreReportedByTheJsonValueAndCountAsEmpty)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "VelmoraData": [], "TabLabel": {} })");
+	const FLogCapture Log(TEXT("PythonKX"));
+	const FLogCapture Json(TEXT("LogJson"));
+	FString DataPath;
+	FString Label = TEXT("before");
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(Label, FString());
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: Default data used.")}));
+	EXPECT_EQ(Json.Errors(), FLines({TEXT("Json Value of type 'Array' used as a 'String'."),
+									 TEXT("Json Value of type 'Object' used as a 'String'.")}));
+}
+
+TEST(DescriptionCommands, StringOfAnyNameIsFoundIfItHasACharacter)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"json({ "OnMapChangedCmd": "changed()", "Empty": "" })json");
+	FString Value;
+
+	EXPECT_TRUE(GetStringFieldOfFile(Path, TEXT("OnMapChangedCmd"), Value));
+	EXPECT_EQ(Value, FString(TEXT("changed()")));
+	EXPECT_FALSE(GetStringFieldOfFile(Path, TEXT("Empty"), Value));
+	EXPECT_EQ(Value, FString());
 }
 
 TEST(DescriptionCommands, InitCommandIsFoundAndItsAbsenceIsReported)

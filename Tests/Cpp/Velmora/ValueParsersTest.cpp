@@ -44,10 +44,18 @@ void ExpectRefused(bool (*Parser)(const TSharedPtr<FJsonValue>&, T&), const char
 
 TEST(ParseHAlign, SpellingsInAnyCase)
 {
+	const FLogCapture Log(TEXT("Velmora"));
+
+	ExpectParsed(&ParseHAlign, R"("HAlign_Fill")", HAlign_Fill);
 	ExpectParsed(&ParseHAlign, R"("fill")", HAlign_Fill);
 	ExpectParsed(&ParseHAlign, R"("HAlign_Left")", HAlign_Left);
+	ExpectParsed(&ParseHAlign, R"("Left")", HAlign_Left);
+	ExpectParsed(&ParseHAlign, R"("HAlign_Center")", HAlign_Center);
 	ExpectParsed(&ParseHAlign, R"("center")", HAlign_Center);
 	ExpectParsed(&ParseHAlign, R"("halign_RIGHT")", HAlign_Right);
+	ExpectParsed(&ParseHAlign, R"("Right")", HAlign_Right);
+
+	EXPECT_EQ(Log.Lines(), FLines());
 }
 
 TEST(ParseHAlign, UnknownWordIsReportedAndFills)
@@ -59,13 +67,20 @@ TEST(ParseHAlign, UnknownWordIsReportedAndFills)
 	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right")}));
 }
 
-TEST(ParseHAlign, ValueThatIsNoTextIsReportedLikeAWrongWord)
+TEST(Spellings, ValueThatIsNoTextIsReportedLikeAWrongWord)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
 	ExpectRefused(&ParseHAlign, "[1]", HAlign_Right, HAlign_Fill);
+	ExpectRefused(&ParseVAlign, "{}", VAlign_Top, VAlign_Fill);
+	ExpectRefused(&ParseOrientation, "null", Orient_Vertical, Orient_Horizontal);
+	ExpectRefused(&ParseVisibility, "5", EVisibility::Hidden, EVisibility::Visible);
 
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right")}));
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"),
+									TEXT("ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"),
+									TEXT("ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical"),
+									TEXT("ParseVisibility Type Error, need String:  "
+										 "Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
 }
 
 TEST(ParseVAlign, FillHasASpellingOfItsOwn)
@@ -75,7 +90,10 @@ TEST(ParseVAlign, FillHasASpellingOfItsOwn)
 	ExpectParsed(&ParseVAlign, R"("VHAlign_Fill")", VAlign_Fill);
 	ExpectParsed(&ParseVAlign, R"("Fill")", VAlign_Fill);
 	ExpectParsed(&ParseVAlign, R"("VAlign_Top")", VAlign_Top);
+	ExpectParsed(&ParseVAlign, R"("Top")", VAlign_Top);
+	ExpectParsed(&ParseVAlign, R"("VAlign_Center")", VAlign_Center);
 	ExpectParsed(&ParseVAlign, R"("center")", VAlign_Center);
+	ExpectParsed(&ParseVAlign, R"("valign_bottom")", VAlign_Bottom);
 	ExpectParsed(&ParseVAlign, R"("Bottom")", VAlign_Bottom);
 	EXPECT_EQ(Log.Errors(), FLines());
 
@@ -87,6 +105,8 @@ TEST(ParseOrientation, VerticalMayStandInsideAWordAndHorizontalMayNot)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
+	ExpectParsed(&ParseOrientation, R"("Vertical")", Orient_Vertical);
+	ExpectParsed(&ParseOrientation, R"("Orient_Vertical")", Orient_Vertical);
 	ExpectParsed(&ParseOrientation, R"("Orient_Vertical_X")", Orient_Vertical);
 	ExpectParsed(&ParseOrientation, R"("mostly vertical")", Orient_Vertical);
 	ExpectParsed(&ParseOrientation, R"("Orient_Horizontal")", Orient_Horizontal);
@@ -121,7 +141,11 @@ TEST(ParseBarFillType, OutputStaysAsItWasOnFailure)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
+	ExpectParsed(&ParseBarFillType, R"("LeftToRight")", EProgressBarFillType::LeftToRight);
 	ExpectParsed(&ParseBarFillType, R"("righttoleft")", EProgressBarFillType::RightToLeft);
+	ExpectParsed(&ParseBarFillType, R"("FillFromCenter")", EProgressBarFillType::FillFromCenter);
+	ExpectParsed(&ParseBarFillType, R"("TopToBottom")", EProgressBarFillType::TopToBottom);
+	ExpectParsed(&ParseBarFillType, R"("BottomToTop")", EProgressBarFillType::BottomToTop);
 	ExpectRefused(&ParseBarFillType, "5", EProgressBarFillType::TopToBottom, EProgressBarFillType::TopToBottom);
 	EXPECT_EQ(Log.Errors(), FLines());
 
@@ -134,6 +158,8 @@ TEST(ParseResizeMode, FixedPositionOnFailure)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
+	ExpectParsed(&ParseResizeMode, R"("FixedPosition")", ESplitterResizeMode::FixedPosition);
+	ExpectParsed(&ParseResizeMode, R"("FixedSize")", ESplitterResizeMode::FixedSize);
 	ExpectParsed(&ParseResizeMode, R"("fill")", ESplitterResizeMode::Fill);
 	ExpectRefused(&ParseResizeMode, "true", ESplitterResizeMode::Fill, ESplitterResizeMode::FixedPosition);
 	EXPECT_EQ(Log.Errors(), FLines());
@@ -146,8 +172,10 @@ TEST(ParseTextWrappingPolicy, DefaultOnFailure)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
+	ExpectParsed(&ParseTextWrappingPolicy, R"("AllowPerCharacterWrapping")", ETextWrappingPolicy::AllowPerCharacterWrapping);
 	ExpectParsed(&ParseTextWrappingPolicy, R"("percharacter")", ETextWrappingPolicy::AllowPerCharacterWrapping);
 	ExpectParsed(&ParseTextWrappingPolicy, R"("DefaultWrapping")", ETextWrappingPolicy::DefaultWrapping);
+	ExpectParsed(&ParseTextWrappingPolicy, R"("Default")", ETextWrappingPolicy::DefaultWrapping);
 	ExpectRefused(&ParseTextWrappingPolicy, "1", ETextWrappingPolicy::AllowPerCharacterWrapping,
 				  ETextWrappingPolicy::DefaultWrapping);
 	EXPECT_EQ(Log.Errors(), FLines());
@@ -256,9 +284,11 @@ TEST(ParseLinearColorValues, MagentaShowsAWrongValue)
 	const FLinearColor Magenta(1.0f, 0.0f, 1.0f, 1.0f);
 
 	ExpectRefused(&ParseLinearColorValues, "[1, 1, 1, 1, 1]", FLinearColor::White, Magenta);
+	ExpectRefused(&ParseLinearColorValues, "[1, 1]", FLinearColor::White, Magenta);
 	ExpectRefused(&ParseLinearColorValues, "5", FLinearColor::White, Magenta);
 
 	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseLinearColorValues Error Array Size: 5"),
+									TEXT("ParseLinearColorValues Error Array Size: 2"),
 									TEXT("ParseLinearColorValues JsonValue Type Error, Need Array")}));
 }
 
@@ -330,6 +360,10 @@ TEST(ParseStrArray2D, EntriesThatAreNoArraysAreSkipped)
 
 	EXPECT_EQ(Rows, TArray<FLines>({FLines({TEXT("a"), TEXT("1")}), FLines()}));
 	EXPECT_EQ(Log.Errors(), FLines());
+
+	EXPECT_FALSE(ParseStrArray2D(JsonValue(R"("a")"), Rows));
+	EXPECT_EQ(Rows.Num(), 0);
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseComboBoxOptionsSource JsonValue Type Error, Need Array")}));
 }
 
 TEST(ParseColumnRow, TwoIntegers)
@@ -343,10 +377,24 @@ TEST(ParseColumnRow, TwoIntegers)
 	EXPECT_EQ(Row, 4);
 }
 
+TEST(ParseColumnRow, EntriesConvertToIntegersAsJsonValuesDo)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+	int32 Column = 0;
+	int32 Row = 0;
+
+	EXPECT_TRUE(ParseColumnRow(JsonObject(R"({ "Column_Row": [1.5, "7"] })"), Column, Row));
+
+	EXPECT_EQ(Column, 2);
+	EXPECT_EQ(Row, 7);
+	EXPECT_EQ(Log.Lines(), FLines());
+}
+
 TEST(ParseColumnRow, EachFaultHasItsMessageAndGivesMinusOne)
 {
 	const FLogCapture Log(TEXT("Velmora"));
-	for (const char* Json : {R"({})", R"({ "Column_Row": [1] })", R"({ "Column_Row": [1, null] })"})
+	for (const char* Json : {R"({})", R"({ "Column_Row": [1] })", R"({ "Column_Row": [1, null] })",
+							 R"({ "Column_Row": [3e9, 1] })"})
 	{
 		int32 Column = 9;
 		int32 Row = 9;
@@ -357,7 +405,8 @@ TEST(ParseColumnRow, EachFaultHasItsMessageAndGivesMinusOne)
 
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: Can't find ArrayFiled: Column_Row"),
 								   TEXT("Velmora: Error: ColumnRowValues->Num() != 2"),
-								   TEXT("Velmora: Error: Parse ColumnRowValues error ")}));
+								   TEXT("Velmora: Error: Parse ColumnRowValues error "),
+								   TEXT("Velmora: Error: Parse ColumnRowValues error 3000000000")}));
 }
 
 TEST(ParseFillColumn, PairsInFrontOfAnErrorStay)

@@ -5,6 +5,7 @@
 #include "RunningPlugin.h"
 #include "ToolTabs.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Layout/SBorder.h"
@@ -22,6 +23,16 @@ UVelmoraData& MakeData()
 {
 	return *NewObject<UVelmoraData>();
 }
+}
+
+TEST(VelmoraData, ClassIsOneToDeriveBlueprintsFromAndHasNoReflectedState)
+{
+	const UClass* const Class = UVelmoraData::StaticClass();
+
+	EXPECT_TRUE(Class->GetBoolMetaData(TEXT("BlueprintType")));
+	EXPECT_TRUE(Class->GetBoolMetaData(TEXT("IsBlueprintBase")));
+	EXPECT_EQ(Class->GetSuperClass(), UObject::StaticClass());
+	EXPECT_FALSE(TFieldIterator<FProperty>(Class)) << "a property";
 }
 
 TEST(VelmoraData, NewNameIsRecordedWithItsPath)
@@ -97,7 +108,7 @@ TEST(VelmoraData, FirstLaunchMakesARootedObjectNamedAfterTheFile)
 	EXPECT_EQ(Data.GetOuter(), GetTransientPackage());
 	EXPECT_EQ(Data.GetClass()->GetPathName(), FString(TEXT("/Script/Kestrix.VelmoraData")));
 	EXPECT_TRUE(Data.IsRooted());
-	EXPECT_TRUE(Log.Lines().Contains(TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")));
+	EXPECT_TRUE(Log.HasLine(TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")));
 }
 
 TEST(VelmoraData, CollectionLeavesTheObjectOfAClosedToolAlive)
@@ -122,18 +133,30 @@ TEST(VelmoraData, ToolOpenedAgainKeepsItsObjectAndGivesItTheNewWidgets)
 	EXPECT_EQ(&Plugin.Launch(TEXT("Tool.json"), ToolWithRoot(R"({ "SBorder": { "Aka": "Name" } })")), &Data);
 
 	EXPECT_EQ(Data.GetNamedWidget("Name"), ChildOf(OpenToolTabs[0]->GetContent()));
-	EXPECT_TRUE(
-		Log.Lines().Contains(TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ UVelmoraData_Tool")));
+	EXPECT_TRUE(Log.HasLine(TEXT("PythonKX: Log: Key: Name Has existed in NamedWidget, Widget: SBorder @ UVelmoraData_Tool")));
 }
 
 TEST(VelmoraData, ClassIsFixedAtTheFirstLaunch)
 {
 	FRunningPlugin Plugin;
-	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), EmptyTool);
+	const FString Content = Plugin.Project.Path(TEXT("Content/"));
+	FPackageName::RegisterMountPoint(TEXT("/KestrixTest/"), Content);
+	Plugin.Project.Write(TEXT("Content/Data.uasset"), TEXT("nothing"));
+	UVelmoraData& Data = Plugin.Launch(TEXT("Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "Old" } })"));
 	UVelmoraData::RequestClose(TEXT("Tool.json"));
+	const FLogCapture Log(TEXT("PythonKX"));
 
-	EXPECT_EQ(
-		&Plugin.Launch(TEXT("Tool.json"), R"({ "InitPyCmd": "", "VelmoraData": "/Game/None", "Root": { "SBox": {} } })"), &Data);
+	EXPECT_EQ(&Plugin.Launch(TEXT("Tool.json"),
+				  R"({ "InitPyCmd": "", "VelmoraData": "/KestrixTest/Data", "Root": { "SBox": { "Aka": "New" } } })"),
+		&Data);
+	FPackageName::UnRegisterMountPoint(TEXT("/KestrixTest/"), Content);
+
+	EXPECT_TRUE(Data.GetNamedWidget("Old").IsValid()) << "an object of this name was made anew at its address";
+	EXPECT_TRUE(Data.GetNamedWidget("New").IsValid());
+	for (const FString& Line : Log.Lines())
+	{
+		EXPECT_FALSE(Line.Contains(TEXT("GetToolsDataInstance"))) << TCHAR_TO_UTF8(*Line);
+	}
 }
 
 TEST(VelmoraData, PackageWithoutABlueprintFallsBackToThePlainClass)

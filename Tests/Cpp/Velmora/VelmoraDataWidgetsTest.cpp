@@ -13,6 +13,7 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/SToolTip.h"
 #include "Widgets/Text/STextBlock.h"
 
 #include <gtest/gtest.h>
@@ -200,6 +201,10 @@ TEST(VelmoraDataWidgets, AnyNegativeLineScrollsToTheEndWhateverTheOffset)
 
 	EXPECT_TRUE(Tool.Data.ScrollTo("Lines", -2));
 	EXPECT_EQ(Picture(), End);
+
+	Tool.Data.ScrollTo("Lines", 0);
+	Tool.Data.ScrollTo("Lines", 50);
+	EXPECT_EQ(Picture(), End) << "the last line";
 	EXPECT_EQ(Tool.Log.Lines(), FLines());
 }
 
@@ -224,6 +229,7 @@ TEST(VelmoraDataWidgets, CheckBoxIsSetWithoutItsCommand)
 	Tool.Data.SetIsChecked("Check", true);
 	EXPECT_TRUE(Tool.Data.GetIsChecked("Check"));
 	Tool.Data.SetIsChecked("Check", false);
+	EXPECT_EQ(Tool.Get<SCheckBox>(TEXT("Check")).GetCheckedState(), ECheckBoxState::Unchecked);
 	EXPECT_FALSE(Tool.Data.GetIsChecked("Check"));
 
 	Tool.Get<SCheckBox>(TEXT("Check")).SetIsChecked(ECheckBoxState::Undetermined);
@@ -353,6 +359,7 @@ TEST(VelmoraDataWidgets, ToolTipShowsWhereTheMouseRests)
 	const TSharedPtr<IToolTip> ToolTip = FSlateApplication::Get().GetShownToolTip();
 	ASSERT_TRUE(ToolTip.IsValid());
 	EXPECT_EQ(ToolTip, Tool.Get<SWidget>(TEXT("Text")).GetToolTip());
+	EXPECT_EQ(As<SToolTip>(ToolTip->AsWidget())->GetTextTooltip().ToString(), FString(TEXT("a hint")));
 	EXPECT_EQ(Tool.Log.Lines(), FLines({TEXT("PythonKX: Log: SetToolTip failed, can't find Widget: None")}));
 }
 

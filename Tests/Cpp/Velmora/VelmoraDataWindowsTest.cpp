@@ -87,7 +87,7 @@ TEST(LaunchVelmoraTool, FileThatDoesNotParseAtItsFirstLaunchOpensNoTab)
 
 	EXPECT_FALSE(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")));
 
-	EXPECT_TRUE(Lines.Warnings().Contains(TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' ")));
+	EXPECT_EQ(Lines.Warnings(), FLines({TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' ")}));
 	EXPECT_EQ(RegisteredToolTabIds.Num(), 0);
 	EXPECT_EQ(OpenToolTabs.Num(), 0);
 }
@@ -191,6 +191,22 @@ TEST(LaunchVelmoraTool, OpenWindowStaysOneAtASecondLaunch)
 	EXPECT_EQ(Plugin.Python.Take(), FLines({TEXT("init")}));
 }
 
+TEST(LaunchVelmoraTool, SecondLaunchBringsTheWindowToTheFront)
+{
+	FRunningPlugin Plugin;
+	const FString Path = Plugin.WriteTool(TEXT("A.json"), R"({ "InitTabSize": [300, 200], "Root": { "SBox": {} } })");
+	UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
+	Plugin.Launch(TEXT("B.json"), EmptyTool);
+	const TSharedRef<SDockTab> A = FindTab(Path);
+	Plugin.Window.GetWindow().BringToFront();
+	EXPECT_FALSE(A->IsActive());
+
+	UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
+
+	EXPECT_TRUE(A->IsActive());
+	EXPECT_EQ(FSlateApplication::Get().GetActiveTopLevelWindow(), A->GetParentWindow());
+}
+
 //
 // RequestClose
 //
@@ -245,6 +261,37 @@ TEST(RequestClose, UnknownToolIsReportedWithTheKnownOnes)
 	EXPECT_FALSE(UVelmoraData::RequestClose());
 
 	EXPECT_EQ(Lines.Lines(), FLines({Warning(TEXT("Can't find Tab:")), Warning(TEXT("\t Exists: Tab: None vs A.json"))}));
+}
+
+TEST(RequestClose, ClosedToolOfTheSameShortPathIsPassedOver)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("A.json"), EmptyTool);
+	const FString Other = Plugin.Project.Write(TEXT("Other/Kestrix/Python/A.json"), EmptyTool);
+	UVelmoraData::LaunchVelmoraTool(Other);
+	UVelmoraData::RequestClose(TEXT("A.json"));
+	EXPECT_EQ(OpenToolTabs.Num(), 1);
+	const FLogCapture Lines(TEXT("PythonKX"));
+
+	EXPECT_TRUE(UVelmoraData::RequestClose(TEXT("A.json")));
+
+	EXPECT_EQ(OpenToolTabs.Num(), 0);
+	EXPECT_EQ(Lines.Warnings(), FLines({TEXT("Can't find tab: A.json")}));
+}
+
+TEST(RequestClose, OpenTabThatIsNotRegisteredClosesAfterAWarning)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("A.json"), EmptyTool);
+	const TArray<FName> Registered = MoveTemp(RegisteredToolTabIds);
+	RegisteredToolTabIds.Empty();
+	const FLogCapture Lines(TEXT("PythonKX"));
+
+	EXPECT_TRUE(UVelmoraData::RequestClose(TEXT("A.json")));
+
+	EXPECT_EQ(OpenToolTabs.Num(), 0);
+	EXPECT_EQ(Lines.Warnings(), FLines({TEXT("Can't find Tab:")}));
+	RegisteredToolTabIds = Registered;
 }
 
 TEST(RequestClose, CloseCommandMayAskForItAgain)

@@ -6,10 +6,12 @@
 #include "Types/ISlateMetaData.h"
 #include "UObject/UObjectGlobals.h"
 #include "Velmora/JsonText.h"
+#include "Velmora/KeyTables.h"
 #include "Velmora/SVelmoraWidget.h"
 #include "Velmora/VelmoraData.h"
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -31,6 +33,15 @@ FString GenerateOutline(const char* Description)
 	const FTempProject Project;
 	return Outline(GenerateWidgetFromFile(Project.Write(TEXT("Tool.json"), Description), TEXT("Root"), nullptr));
 }
+
+/** Widgets of which the walk knows the name of their type alone. */
+class SComboBox : public SBox
+{
+};
+
+class SDropTarget : public SBox
+{
+};
 
 /** Detailed log lines, for as long as it lives. */
 struct FDetailedLog
@@ -67,6 +78,14 @@ TEST(VelmoraGenerator, FileThatDoesNotParseShowsTheReason)
 			  TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' "));
 	EXPECT_EQ(ErrorTextOf(GenerateWidgetFromFile(TEXT("/nowhere.json"), TEXT("Root"), nullptr)),
 			  FString(TEXT("Json File: /nowhere.json is Not exists")));
+}
+
+TEST(VelmoraGenerator, ErrorTextStandsFourUnitsFromTheEdge)
+{
+	const FChildRect Rect = ArrangeChild(MakeErrorWidget(TEXT("No Widget")), FVector2D(200.0, 100.0));
+
+	EXPECT_EQ(Rect.Position, FVector2D(4.0, 4.0));
+	EXPECT_EQ(Rect.Size, FVector2D(192.0, 92.0));
 }
 
 TEST(VelmoraGenerator, RootWhoseFirstKeyIsNoWidgetIsAnEmptyBorder)
@@ -141,6 +160,15 @@ TEST(VelmoraGenerator, ContentInsideASlotIsSkipped)
 	EXPECT_EQ(Log.Lines(), FLines({Line, Line}));
 }
 
+TEST(VelmoraGenerator, ContentIsTakenByThePathAndNotByTheWidget)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	EXPECT_EQ(Outline(BuildTree(R"({ "SBorder": { "Slots": [ { "Content": { "SBox": {} } } ] } })")), FString(TEXT("SBorder")));
+
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: \t\tSkip Content, KeyName: Content  parent: SBorder")}));
+}
+
 TEST(VelmoraGenerator, ContentThatIsNoObjectIsALogLine)
 {
 	const FLogCapture Log(TEXT("Velmora"));
@@ -148,6 +176,26 @@ TEST(VelmoraGenerator, ContentThatIsNoObjectIsALogLine)
 	BuildTree(R"({ "SBox": { "Content": [ { "SBorder": {} } ] } })");
 
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: \tIsBehavior Should be object Type, KeyName: Content  parent: SBox")}));
+}
+
+TEST(VelmoraGenerator, ContentOfADropTargetIsLeftToItsBuilderWithoutAWord)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+	const TSharedRef<SWidget> Target = SNew(SDropTarget);
+
+	EXPECT_EQ(Build(TEXT("Content"), JsonValue(R"({ "SBox": {} })"), Target, 1, TEXT("/SDropTarget"), nullptr), Target);
+
+	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(VelmoraGenerator, UnknownKeyOfAComboBoxDrawsNoWarning)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	Build(TEXT("Nonsense"), JsonValue("1"), SNew(SComboBox), 1, TEXT("/SComboBox"), nullptr);
+	Build(TEXT("Margin"), JsonValue("1"), SNew(SComboBox), 1, TEXT("/SComboBox"), nullptr);
+
+	EXPECT_EQ(Log.Lines(), FLines());
 }
 
 TEST(VelmoraGenerator, StructureKeysMindCaseAndTheOthersDoNot)
@@ -179,6 +227,24 @@ TEST(VelmoraGenerator, SlotsOfAWrongTypeLeaveTheWidgetEmpty)
 					  TEXT("Velmora: Log: \tSlots Element should be Object Type, KeyName: Slots  parent: SVerticalBox")}));
 }
 
+TEST(VelmoraGenerator, PathSpellsTypesAsSlateDoes)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	BuildTree(R"({ "SBOX": { "Content": { "sborder": { "Aka": 1 } } } })");
+
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("IsID: Aka @Path /SBox/Content/SBorder")}));
+}
+
+TEST(VelmoraGenerator, SkippedSlotsAreCountedInThePath)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	BuildTree(R"({ "SVerticalBox": { "Slots": [ 5, { "SBox": { "Aka": 1 } } ] } })");
+
+	EXPECT_EQ(Log.Errors(), FLines({TEXT("IsID: Aka @Path /SVerticalBox/Slots_1/SBox")}));
+}
+
 TEST(VelmoraGenerator, SpinBoxOrTrailWithoutATypeIsNothingWithoutAMessage)
 {
 	const FLogCapture Log(TEXT("Velmora"));
@@ -193,11 +259,14 @@ TEST(VelmoraGenerator, SpinBoxOrTrailOfAnUnknownTypeWarns)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
-	EXPECT_EQ(Outline(BuildTree(R"({ "SSpinBox": { "Type": "double" } })")), FString(TEXT("SBorder")));
-	EXPECT_EQ(Outline(BuildTree(R"({ "SBreadcrumbTrail": { "Type": "float" } })")), FString(TEXT("SBorder")));
+	EXPECT_EQ(Outline(BuildTree(R"({ "SSpinBox": { "Type": "Double" } })")), FString(TEXT("SBorder")));
+	EXPECT_EQ(Outline(BuildTree(R"({ "SSpinBox": { "Type": [] } })")), FString(TEXT("SBorder")));
+	EXPECT_EQ(Outline(BuildTree(R"({ "SBox": { "SBreadcrumbTrail": { "Type": "Float" } } })")), FString(TEXT("SBox")));
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: SpinBox of type: double not implement"),
-								   TEXT("Velmora: Warning: SpinBox of type: float not implement")}));
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: SpinBox of type: Double not implement"),
+								   TEXT("Velmora: Warning: SpinBox of type:  not implement"),
+								   TEXT("Velmora: Warning: \tSpinBox of type: float not implement")}))
+		<< "a trail's type is named in small letters";
 }
 
 TEST(VelmoraGenerator, HeaderRowAsAnOrdinaryChildIsNothingWithoutAMessage)
@@ -209,13 +278,24 @@ TEST(VelmoraGenerator, HeaderRowAsAnOrdinaryChildIsNothingWithoutAMessage)
 	EXPECT_EQ(Log.Lines(), FLines());
 }
 
-TEST(VelmoraGenerator, WidgetWithoutABuilderIsAnError)
+TEST(VelmoraGenerator, EveryWidgetTypeIsBuiltUnderItsNameOrIsAnError)
 {
-	const FLogCapture Log(TEXT("Velmora"));
+	const TSet<FString> Buildable = {TEXT("SBox"), TEXT("SBorder"), TEXT("SButton"), TEXT("SScrollBox"), TEXT("SVerticalBox"),
+									 TEXT("SHorizontalBox"), TEXT("SCheckBox"), TEXT("STextBlock"), TEXT("SEditableTextBox"),
+									 TEXT("SMultiLineEditableTextBox")};
+	for (const FString& Type : WidgetTypes)
+	{
+		const FLogCapture Log(TEXT("Velmora"));
+		const FString Root = TEXT("{ \"SBox\": { \"Content\": { \"") + Type + TEXT("\": { \"Type\": \"Integer\" } } } }");
 
-	EXPECT_EQ(Outline(BuildTree(R"({ "SBox": { "Content": { "SColorWheel": {} } } })")), FString(TEXT("SBox")));
+		const TSharedRef<SWidget> Child = ChildOf(BuildTree(TCHAR_TO_UTF8(*Root)));
 
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("\t\tSlate SColorWheel 's Value Type not implement")}));
+		const bool bIsBuilt = Buildable.Contains(Type);
+		EXPECT_EQ(Child != SNullWidget::NullWidget, bIsBuilt) << TCHAR_TO_UTF8(*Type);
+		EXPECT_TRUE(!bIsBuilt || Child->GetType() == FName(*Type)) << TCHAR_TO_UTF8(*Type);
+		const FString Error = TEXT("\t\tSlate ") + Type + TEXT(" 's Value Type not implement");
+		EXPECT_EQ(Log.Errors(), bIsBuilt || Type == TEXT("SHeaderRow") ? FLines() : FLines({Error}));
+	}
 }
 
 TEST(VelmoraGenerator, WidgetThatIsNoObjectWarns)

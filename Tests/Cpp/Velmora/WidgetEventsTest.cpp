@@ -5,6 +5,7 @@
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/SBoxPanel.h"
 
 #include <gtest/gtest.h>
 
@@ -67,6 +68,32 @@ TEST(WidgetEvents, CheckBoxTellsItsNewStateOncePerClick)
 	Column.Window.Click(Column.Child(0));
 
 	EXPECT_EQ(Column.Python.Take(), FLines({TEXT("set(True)"), TEXT("set(False)")}));
+}
+
+TEST(WidgetEvents, CommandMayRemoveTheVeryWidgetThatRunsIt)
+{
+	FColumn Column(R"json({ "AutoHeight": true, "SButton": { "Text": "Go", "OnClick": "click" } },
+		{ "AutoHeight": true, "SCheckBox": { "OnCheckStateChanged": "check", "Content": { "STextBlock": { "Text": "On" } } } },
+		{ "AutoHeight": true, "SEditableTextBox": { "OnTextChanged": "change" } })json");
+	Column.Python.SetOnCommand([&Column] { As<SVerticalBox>(Column.Box)->RemoveSlot(Column.Child(0)); });
+
+	Column.Window.Click(Column.Child(0));
+	Column.Window.Click(Column.Child(0));
+	Column.Window.Click(Column.Child(0));
+	Column.Window.TypeText(TEXT("x"));
+
+	EXPECT_EQ(Column.Box->GetChildren()->Num(), 0);
+	EXPECT_EQ(Column.Python.Take(), FLines({TEXT("click"), TEXT("check"), TEXT("change")}));
+}
+
+TEST(WidgetEvents, CheckBoxWhoseCommandIsNoTextOnlyChanges)
+{
+	FColumn Column(R"json({ "AutoHeight": true, "HAlign": "Left", "SCheckBox": { "OnCheckStateChanged": 5 } })json");
+
+	Column.Window.Click(Column.Child(0));
+
+	EXPECT_TRUE(As<SCheckBox>(Column.Child(0))->IsChecked());
+	EXPECT_EQ(Column.Python.Take(), FLines());
 }
 
 TEST(WidgetEvents, CheckBoxWithoutACommandOnlyChanges)

@@ -205,7 +205,7 @@ namespace
 {
 bool ContainsKey(const TArray<FString>& Keys, const FString& Key)
 {
-	return Keys.ContainsByPredicate([&Key](const FString& Entry) { return IsSameKey(Key, *Entry); });
+	return Keys.ContainsByPredicate([&Key](const FString& Entry) { return Entry.Len() == Key.Len() && IsSameKey(Key, *Entry); });
 }
 
 bool HoldsFor(const FInbornKeys& Row, const FString& WidgetType)

@@ -24,9 +24,9 @@ const FString CommentMark = TEXT("//");
 const FString InclusionMark = TEXT("\"ExternalJson\":");
 
 /** The text between the first two double quotes behind the inclusion mark, or what there is of it. */
-FString ReadIncludedName(const FString& Trimmed, int32 MarkPosition)
+FString ReadIncludedName(const FString& Line, int32 MarkPosition)
 {
-	const FString Rest = Trimmed.Mid(MarkPosition + InclusionMark.Len());
+	const FString Rest = Line.Mid(MarkPosition + InclusionMark.Len());
 	int32 First = INDEX_NONE;
 	if (!Rest.FindChar(TEXT('"'), First))
 	{
@@ -49,6 +49,15 @@ public:
 
 	void AppendLines(const FString& File, const TArray<FString>& Lines)
 	{
+		// A tool is read several times when it opens: the text grows in one step.
+		int32 Length = Text.Text.Len();
+		for (const FString& Line : Lines)
+		{
+			Length += Line.Len() + 1;
+		}
+		Text.Text.Reserve(Length);
+		Text.Places.Reserve(Text.Places.Num() + Lines.Num());
+
 		const int32 FileIndex = Text.Files.Add(File);
 		for (int32 Index = 0; Index < Lines.Num(); ++Index)
 		{
@@ -84,22 +93,29 @@ private:
 	/** A commented-out inclusion includes its file all the same, so the mark is looked for in front of the comment test. */
 	void AppendLine(const FString& Line, const FDescriptionPlace& Place)
 	{
-		const FString Trimmed = Line.TrimStart();
-		const int32 MarkPosition = Trimmed.Find(InclusionMark);
+		const int32 MarkPosition = Line.Find(InclusionMark);
 		if (MarkPosition != INDEX_NONE)
 		{
-			const FString Name = ReadIncludedName(Trimmed, MarkPosition);
+			const FString Name = ReadIncludedName(Line, MarkPosition);
 			UE_LOG(PythonKX, Log, TEXT("Import External Json Path: %s"), *Name);
 			Include(Name);
 			return;
 		}
-		if (Trimmed.StartsWith(CommentMark))
+		const int32 CommentPosition = Line.Find(CommentMark, ESearchCase::CaseSensitive);
+		if (CommentPosition == INDEX_NONE)
 		{
-			return;
+			Text.Text += Line;
 		}
-		const int32 CommentPosition = Line.Find(CommentMark);
-		Text.Text += CommentPosition == INDEX_NONE ? Line : Line.Left(CommentPosition);
-		Text.Text += TEXT("\n");
+		else
+		{
+			const FString Kept = Line.Left(CommentPosition);
+			if (Kept.TrimStart().IsEmpty())
+			{
+				return;
+			}
+			Text.Text += Kept;
+		}
+		Text.Text += TEXT('\n');
 		Text.Places.Add(Place);
 	}
 
@@ -143,6 +159,17 @@ TSharedPtr<FJsonObject> LoadJsonFileOrReport(const FString& JsonPath)
 		UE_LOG(PythonKX, Error, TEXT("Json object is not Valid %s"), *JsonPath);
 	}
 	return Object;
+}
+
+/** A string of the top level. One that is there and is no text reads as empty, and the JSON value says so in its own category. */
+bool ReadStringField(const FJsonObject& Object, const FString& Key, FString& Out)
+{
+	if (!Object.HasField(Key))
+	{
+		return false;
+	}
+	Out = Object.GetStringField(Key);
+	return true;
 }
 
 FVector2D ReadTwoNumbers(const FJsonObject& Object, const FString& Key)
@@ -210,7 +237,7 @@ bool GetStringFieldOfFile(const FString& JsonPath, const FString& FieldName, FSt
 		return false;
 	}
 	OutValue.Empty();
-	Object->TryGetStringField(FieldName, OutValue);
+	ReadStringField(*Object, FieldName, OutValue);
 	return !OutValue.IsEmpty();
 }
 
@@ -223,7 +250,7 @@ bool GetDataAndTabLabel(const FString& JsonPath, FString& OutDataPath, FString& 
 		return false;
 	}
 	OutDataPath.Empty();
-	if (Object->TryGetStringField(TEXT("VelmoraData"), OutDataPath))
+	if (ReadStringField(*Object, TEXT("VelmoraData"), OutDataPath))
 	{
 		if (OutDataPath.IsEmpty())
 		{
@@ -234,7 +261,7 @@ bool GetDataAndTabLabel(const FString& JsonPath, FString& OutDataPath, FString& 
 			UE_LOG(PythonKX, Error, TEXT("Json File can't find: VelmoraData, Default data used. @ %s"), *OutDataPath);
 		}
 	}
-	Object->TryGetStringField(TEXT("TabLabel"), OutTabLabel);
+	ReadStringField(*Object, TEXT("TabLabel"), OutTabLabel);
 	return true;
 }
 
@@ -246,7 +273,7 @@ bool GetInitPyCmd(const FString& JsonPath, FString& OutCommand)
 		return false;
 	}
 	OutCommand.Empty();
-	if (!Object->TryGetStringField(TEXT("InitPyCmd"), OutCommand))
+	if (!ReadStringField(*Object, TEXT("InitPyCmd"), OutCommand))
 	{
 		UE_LOG(PythonKX, Error, TEXT("Json File can't find: InitPyCmd  %s"), *JsonPath);
 	}

@@ -183,8 +183,8 @@ public:
 	 *
 	 * @param ToolsPath  The relative JSON path of Velmora tool in Python folder, e.g. "VelmoraGallery/VelmoraGallery.json", or an
 	 *                   absolute path.
-	 * @return True if the tool is in a tab now. A tool with an "InitTabSize" opens in a window of its own and gives false, as
-	 *         does, with a line in the log, a file that is missing or cannot be parsed.
+	 * @return succeed or not: true if the tool is in a tab now. A tool with an "InitTabSize" opens in a window of its own and
+	 *         gives false, as does, with a line in the log, a file that is missing or cannot be parsed.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	static bool LaunchVelmoraTool(const FString& ToolsPath = TEXT(""));

@@ -5,6 +5,7 @@
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Layout/SBox.h"
 #include "Widgets/Text/STextBlock.h"
 
 #include <gtest/gtest.h>
@@ -67,15 +68,27 @@ TEST(ButtonBuilder, TextStyleReachesTheTextBlock)
 	EXPECT_TRUE(As<STextBlock>(Button->GetContent())->GetFont() == Style.Font);
 }
 
+TEST(ButtonBuilder, StyleGivesTheBorder)
+{
+	const TSharedRef<SButton> Button =
+		BuildButton(R"({ "SButton": { "ButtonStyle": { "Style": "FAppStyle", "StyleName": "PrimaryButton" } } })");
+
+	EXPECT_EQ(BorderImageOf(Button), &FAppStyle::Get().GetWidgetStyle<FButtonStyle>("PrimaryButton").Normal);
+}
+
 TEST(ButtonBuilder, WrongStylesAreReportedAndTheButtonStands)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
-	const TSharedRef<SButton> Button = BuildButton(R"({ "SButton": { "ButtonStyle": 5, "Text": "x" } })");
+	const TSharedRef<SButton> Button = BuildButton(R"({ "SButton": { "ButtonStyle": 5, "TextStyle": 5, "Text": "x" } })");
 
 	EXPECT_EQ(Outline(Button), FString(TEXT("SButton[STextBlock]")));
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: ParseWidgetStyle JsonValue Type Error, Need Object"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
+	EXPECT_TRUE(As<STextBlock>(Button->GetContent())->GetFont() ==
+				FAppStyle::Get().GetWidgetStyle<FTextBlockStyle>("ButtonText").Font);
+	const FString Error = TEXT("Velmora: Error: ParseWidgetStyle JsonValue Type Error, Need Object");
+	const FString Warning = TEXT("Velmora: Warning: ParseFontInfo Default Font used");
+	EXPECT_EQ(Log.Lines(), FLines({Error, Warning, Error, Warning, Error, Warning}))
+		<< "both by the builder, and the text style once more by the decoration";
 }
 
 TEST(ButtonBuilder, HorizontalPaddingOfTheSettingsHoldsForEveryButton)
@@ -140,11 +153,40 @@ TEST(CheckBoxBuilder, PaddingSurroundsTheContent)
 	EXPECT_EQ(Build("[10, 20]") - Build("0"), FVector2D(20.0, 40.0));
 }
 
+TEST(CheckBoxBuilder, WithoutAKeyThereIsNoPaddingWhateverTheStyleSays)
+{
+	const char* Bare = R"({ "SCheckBox": { "Content": { "SBox": {} } } })";
+	const char* Zero = R"({ "SCheckBox": { "Padding": 0, "Content": { "SBox": {} } } })";
+
+	EXPECT_EQ(DesiredSizeOf(BuildTree(Bare)), DesiredSizeOf(BuildTree(Zero)));
+	EXPECT_NE(DesiredSizeOf(SNew(SCheckBox)[SNew(SBox)]), DesiredSizeOf(BuildTree(Bare)));
+}
+
+TEST(CheckBoxBuilder, AlignmentMovesTheContent)
+{
+	const auto LeftOfContent = [](const char* HAlign)
+	{
+		const std::string Root = std::string(R"({ "SCheckBox": { "HAlign": ")") + HAlign +
+								 R"(", "Content": { "SBox": { "WidthOverride": 30 } } } })";
+		const TSharedRef<SWidget> CheckBox = BuildTree(Root.c_str());
+		const TSharedRef<SWidget> Row = ChildOf(CheckBox);
+		CheckBox->SlatePrepass(1.0f);
+		return ArrangeChild(Row, FVector2D(200.0, 20.0), 1).Position.X;
+	};
+
+	EXPECT_EQ(LeftOfContent("Right"), 170.0);
+	EXPECT_LT(LeftOfContent("Left"), 60.0);
+}
+
 TEST(CheckBoxBuilder, StyleIsTakenFromTheEditors)
 {
-	const FLogCapture Log;
+	const FLogCapture Log(TEXT("Velmora"));
+	const FSlateBrush* Plain = &FAppStyle::Get().GetWidgetStyle<FCheckBoxStyle>("NoSuchStyle").UncheckedImage;
+	EXPECT_NE(As<SCheckBox>(BuildTree(R"({ "SCheckBox": {} })"))->GetStateImage(), Plain);
 
-	BuildTree(R"({ "SCheckBox": { "CheckBoxStyle": { "Style": "FAppStyle", "StyleName": "Checkbox" } } })");
+	const TSharedRef<SWidget> CheckBox =
+		BuildTree(R"({ "SCheckBox": { "CheckBoxStyle": { "Style": "FAppStyle", "StyleName": "NoSuchStyle" } } })");
 
+	EXPECT_EQ(As<SCheckBox>(CheckBox)->GetStateImage(), Plain);
 	EXPECT_EQ(Log.Lines(), FLines());
 }

@@ -42,6 +42,25 @@ TEST(TextBuilders, MarginAndPaddingOfAMultiLineBoxAreReadAtConstruction)
 	EXPECT_EQ(Log.Lines(), FLines());
 }
 
+TEST(TextBuilders, BarsOfAMultiLineBoxTakeTheirRoomIfTheyAlwaysShow)
+{
+	const FVector2D Bare = DesiredSizeOf(R"({ "SMultiLineEditableTextBox": { "AlwaysShowScrollbars": false } })");
+
+	EXPECT_GT(DesiredSizeOf(R"({ "SMultiLineEditableTextBox": { "AlwaysShowScrollbars": true } })").X, Bare.X);
+	EXPECT_GT(DesiredSizeOf(R"({ "SMultiLineEditableTextBox": { "AlwaysShowScrollbars": "yes" } })").X, Bare.X);
+	EXPECT_EQ(DesiredSizeOf(R"({ "SMultiLineEditableTextBox": {} })"), Bare);
+}
+
+TEST(TextBuilders, WithoutAKeyAMultiLineBoxHasNoPaddingWhateverTheStyleSays)
+{
+	const FVector2D Bare = DesiredSizeOf(R"({ "SMultiLineEditableTextBox": {} })");
+	const TSharedRef<SWidget> Styled = SNew(SMultiLineEditableTextBox);
+	Styled->SlatePrepass(1.0f);
+
+	EXPECT_EQ(DesiredSizeOf(R"({ "SMultiLineEditableTextBox": { "Padding": 0, "Margin": 0 } })"), Bare);
+	EXPECT_NE(Styled->GetDesiredSize(), Bare);
+}
+
 TEST(TextBuilders, MarginThatCannotBeReadIsZero)
 {
 	const FVector2D Bare = DesiredSizeOf(R"({ "SMultiLineEditableTextBox": {} })");

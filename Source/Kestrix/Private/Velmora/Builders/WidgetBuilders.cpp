@@ -58,11 +58,14 @@ struct FTypedWidgetRow
 {
 	const TCHAR* Key;
 	TArray<FString> Types;
+
+	/** A type that is none of these is named in small letters. */
+	bool bLowersType = false;
 };
 
 const FTypedWidgetRow TypedWidgets[] = {
 	{TEXT("SSpinBox"), {TEXT("float"), TEXT("int"), TEXT("integer")}},
-	{TEXT("SBreadcrumbTrail"), {TEXT("string"), TEXT("str"), TEXT("integer"), TEXT("int")}},
+	{TEXT("SBreadcrumbTrail"), {TEXT("string"), TEXT("str"), TEXT("integer"), TEXT("int")}, true},
 };
 
 template <typename RowT, int32 Num>
@@ -85,7 +88,11 @@ bool HasKnownType(const FTypedWidgetRow& Row, const FWidgetSite& Site)
 	{
 		return false;
 	}
-	const FString Type = Site.Object->GetStringField(TEXT("Type"));
+	FString Type = Site.Object->GetStringField(TEXT("Type"));
+	if (Row.bLowersType)
+	{
+		Type.ToLowerInline();
+	}
 	if (Row.Types.Contains(Type))
 	{
 		return true;
