@@ -22,7 +22,8 @@ endif()
 
 set(KESTRIX_SANITIZERS "" CACHE STRING "Sanitizers to build with, e.g. address,undefined")
 if(KESTRIX_SANITIZERS)
-	add_compile_options(-fsanitize=${KESTRIX_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+	add_compile_options(-fsanitize=${KESTRIX_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all
+		-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/SanitizerIgnores.txt)
 	add_link_options(-fsanitize=${KESTRIX_SANITIZERS})
 endif()
 

@@ -4,7 +4,7 @@ import re
 
 import unreal
 
-LINE = re.compile(r"\[[\d.]{10}-[\d.:]{12}\]\[[ \d]{3}\](?P<category>\w+): (?:(?P<verbosity>Error|Warning|Display|Fatal): )?(?P<text>.*)")
+LINE = re.compile(r"\[[\d.]{10}-[\d.:]{12}\]\[(?P<frame>[ \d]{3})\](?P<category>\w+): (?:(?P<verbosity>Error|Warning|Display|Fatal): )?(?P<text>.*)")
 
 
 class EditorLog:
@@ -25,14 +25,21 @@ class EditorLog:
     def warnings(self, category):
         return self.lines(category, "Warning")
 
-    def entries(self):
-        """(category, verbosity, text) of each line."""
+    def frame_of(self, text):
+        """In which frame the editor wrote that text; the log counts them up to 999 and then from 0 again."""
+        matches = filter(None, map(LINE.fullmatch, self.read().splitlines()))
+        return next(int(match["frame"]) for match in matches if match["text"] == text)
+
+    def read(self):
         unreal.log_flush()
         with self.file.open("rb") as file:
             file.seek(self.start)
-            text = file.read().decode("utf-8")
+            return file.read().decode("utf-8")
+
+    def entries(self):
+        """(category, verbosity, text) of each line."""
         result = []
-        for line in text.splitlines():
+        for line in self.read().splitlines():
             match = LINE.fullmatch(line)
             if match:
                 result.append((match["category"], match["verbosity"] or "Log", match["text"]))

@@ -27,7 +27,11 @@ KEYS = (
     " WidthOverride WrappingPolicy AlwaysShowScrollbars NobodyKnowsThis"
 ).split()
 
-WRONG_VALUES = (None, True, -1, 0.5, 1e308, -1e308, "", "x", "%", [], [None], ["x", {}], [1, 2, 3, 4, 5], [[[]]], {}, {"x": 1}, {"Style": 5})
+WRONG_VALUES = (
+    *(None, True, -1, 0.5, 1e308, -1e308, "", "x", "%"),
+    *([], [None], ["x", {}], [1, 2, 3, 4, 5], [[[]]]),
+    *({}, {"x": 1}, {"Style": 5}),
+)
 
 
 def editor_lives(t, runs):

@@ -22,11 +22,13 @@ def only_tab():
 
 
 def padded(content):
-    return {"SBorder": {"BorderImage": {"Style": "FEditorStyle", "Brush": "ToolPanel.GroupBorder"}, "Content": {"SBox": {"Padding": 12, "Content": content}}}}
+    panel = {"Style": "FEditorStyle", "Brush": "ToolPanel.GroupBorder"}
+    return {"SBorder": {"BorderImage": panel, "Content": {"SBox": {"Padding": 12, "Content": content}}}}
 
 
 def row(*contents):
-    return {"Padding": [0, 4], "SHorizontalBox": {"Slots": [{"AutoWidth": True, "Padding": [0, 0, 8, 0], **content} for content in contents]}}
+    slots = [{"AutoWidth": True, "Padding": [0, 0, 8, 0], **content} for content in contents]
+    return {"Padding": [0, 4], "SHorizontalBox": {"Slots": slots}}
 
 
 def buttons():

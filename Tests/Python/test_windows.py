@@ -154,7 +154,11 @@ def test_driver_names_the_tabs_there_are():
         Driver.click("Nothing", "SButton")
 
 
-def test_widgets_that_are_not_there_or_disabled_cannot_be_clicked(tool):
-    t = tool(vertical(label("a")))
-    with pytest.raises(RuntimeError, match="There is no SButton"):
-        t.click("SButton")
+def test_driver_says_what_is_not_there(tool):
+    t = tool(vertical(label("a"), label("b")))
+    with pytest.raises(RuntimeError) as error:
+        t.click("SButton", "Go")
+    assert str(error.value) == f'There is no SButton "Go" in "{t.tab}"'
+    with pytest.raises(RuntimeError) as error:
+        t.click("STextBlock", "", 2)
+    assert str(error.value) == f'There is no STextBlock number 2 in "{t.tab}"; they are numbered from 0 to 1'

@@ -50,8 +50,8 @@ def close(path):
 class Tool:
     """A tool of one test. Widgets are named as the driver names them: by type or "#aka", text, index."""
 
-    def __init__(self, folder, title, root, text, files, keys):
-        self.path = folder / "Tool.json"
+    def __init__(self, folder, title, root, text, files, keys, name="Tool.json"):
+        self.path = folder / name
         self.title = title
         description = {"TabLabel": title, "InitPyCmd": "import recorder", **keys}
         if root is not None:

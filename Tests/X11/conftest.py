@@ -52,6 +52,14 @@ class Editor:
             return False
         return True
 
+    def do(self, text):
+        """Runs Python inside the editor, and waits until that has happened."""
+        task = self.state_file.with_name(self.state_file.name + ".py")
+        new = task.with_suffix(".new")
+        new.write_text(text, encoding="utf-8")
+        new.rename(task)
+        until(lambda: not task.exists(), "the editor to do it")
+
     def log(self):
         return (self.project.parent / "Saved" / "Logs" / "Trial.log").read_text(encoding="utf-8")
 

@@ -30,7 +30,9 @@ class Desktop:
         self.processes = []
         read_end, write_end = os.pipe()
         screen = f"{SIZE[0]}x{SIZE[1]}x24"
-        self.start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", screen, "-fbdir", str(folder), "-nolisten", "tcp", "-noreset"], pass_fds=[write_end])
+        # Without -noreset it would begin anew, and refuse callers for a moment, whenever the last one has gone.
+        options = ["-screen", "0", screen, "-fbdir", str(folder), "-nolisten", "tcp", "-noreset"]
+        self.start(["Xvfb", "-displayfd", str(write_end), *options], pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
             display = pipe.readline().strip()
@@ -74,7 +76,7 @@ class Desktop:
         return answer["WIDTH"], answer["HEIGHT"]
 
     def origin(self, window):
-        """Where a window without its frame begins. The mouse is moved there, since under a window manager only this is told right."""
+        """Where a window without its frame begins. The mouse goes there: its place is told right under any window manager."""
         self.ask("mousemove", "--window", window, 0, 0)
         answer = self.numbers("getmouselocation")
         return answer["X"], answer["Y"]

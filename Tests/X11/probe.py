@@ -1,4 +1,7 @@
-"""Runs inside the editor: probe.py TOOL STATE_FILE. Opens a tool, and writes after each change what it shows and where."""
+"""Runs inside the editor: probe.py TOOL STATE_FILE. Opens a tool, and writes after each change what it shows and where.
+
+What a file STATE_FILE.py says is done once.
+"""
 
 import json
 import os
@@ -15,6 +18,7 @@ class Probe:
         self.written = None
 
     def __call__(self, delta_seconds):
+        self.do_what_is_asked()
         if unreal.EditorDriver.count(TAB, "SVelmoraWidget") == 0:
             return
         data = unreal.PythonBPLib.get_velmora_data(TOOL)
@@ -29,6 +33,14 @@ class Probe:
             with open(STATE_FILE + ".new", "w", encoding="utf-8") as file:
                 json.dump(state, file)
             os.replace(STATE_FILE + ".new", STATE_FILE)
+
+    def do_what_is_asked(self):
+        task = STATE_FILE + ".py"
+        if os.path.exists(task):
+            with open(task, encoding="utf-8") as file:
+                text = file.read()
+            os.remove(task)
+            exec(text, {"unreal": unreal})
 
 
 unreal.EditorPythonScripting.set_keep_python_script_alive(True)

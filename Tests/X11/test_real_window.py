@@ -3,6 +3,7 @@
 import subprocess
 
 import pictures
+from conftest import TOOL
 from desktop import until
 
 SNAP = """\
@@ -90,6 +91,17 @@ def test_window_covered_and_shown_again_is_whole(editor, desktop):
     desktop.ask("windowmap", editor.window)
     desktop.ask("windowactivate", "--sync", editor.window)
     editor.until_pixels(expected)
+
+
+def test_window_is_itself_again_after_a_snapshot(editor, desktop):
+    expected = off_screen_pixels(editor)
+    picture = editor.folder / "snapshot.png"
+    editor.do(f"unreal.VelmoraData.snapshot_velmora_window('{TOOL}', unreal.Vector2D(640, 480), {str(picture)!r})")
+    until(picture.exists, "the picture")
+    editor.until_pixels(expected)
+    editor.click("#Pattern")
+    desktop.type("x")
+    editor.until_text("Pattern", "x")
 
 
 def test_close_button_ends_the_editor_with_status_0(editor, desktop):
