@@ -19,6 +19,23 @@ function(kestrix_module NAME)
 	endif()
 endfunction()
 
+# kestrix_editor_program(<Name> <source>...): an executable that can be the editor. Modules that are only loaded by name are there
+# as well, and extension modules of Python find the interpreter's symbols.
+function(kestrix_editor_program NAME)
+	add_executable(${NAME} ${ARGN})
+	# Descriptions become many small blocks, all freed at once, which this allocator does best. It stands first, so that it serves
+	# the whole process. Sanitizers bring their own.
+	if(NOT KESTRIX_SANITIZERS)
+		find_package(mimalloc REQUIRED)
+		target_link_libraries(${NAME} PRIVATE mimalloc)
+	endif()
+	find_package(Python3 3.11 REQUIRED COMPONENTS Development.Embed)
+	target_link_libraries(${NAME} PRIVATE Launch Python3::Python)
+	target_link_options(${NAME} PRIVATE -Wl,--no-as-needed)
+	add_dependencies(${NAME} EditorDriver)
+	kestrix_use_precompiled_header(${NAME} "")
+endfunction()
+
 # kestrix_module_tests(<Name> [REFLECTED] [LIBRARIES <library>...]): <Name>Tests from Tests/**/*.cpp, one ctest entry per module.
 # REFLECTED runs the header tool over the headers in Tests/.
 function(kestrix_module_tests NAME)

@@ -56,7 +56,7 @@ void InputPlayer::Run(double Seconds)
 	do
 	{
 		GEngineLoop.Tick();
-		GEngineLoop.WaitForWork();
+		GEngineLoop.WaitForWork(FMath::Clamp(End - FApp::GetCurrentTime(), 0.0, FEngineLoop::LongestSleep));
 	} while (FApp::GetCurrentTime() < End && !IsEngineExitRequested());
 }
 

@@ -32,9 +32,6 @@ FEngineLoop GEngineLoop;
 
 namespace
 {
-/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
-constexpr double LongestSleep = 1.0;
-
 /** Whoever wants every frame, an animation or a callback, gets no more than sixty a second. Input does not wait for it. */
 constexpr double ShortestFrame = 1.0 / 60.0;
 
@@ -211,7 +208,7 @@ void FEngineLoop::RunCommandLineCommands()
 	FSlateApplication::Get().RequestFrame();
 }
 
-void FEngineLoop::WaitForWork()
+void FEngineLoop::WaitForWork(double Longest)
 {
 	FSlateApplication& Slate = FSlateApplication::Get();
 	if (FApp::UseFixedTimeStep() || IsEngineExitRequested())
@@ -226,7 +223,7 @@ void FEngineLoop::WaitForWork()
 		return;
 	}
 	FCoreDelegates::OnMainLoopSleep.Broadcast();
-	Slate.GetPlatformApplication()->WaitForMessages(FMath::Clamp(Seconds, 0.0, LongestSleep));
+	Slate.GetPlatformApplication()->WaitForMessages(FMath::Clamp(Seconds, 0.0, Longest));
 	FCoreDelegates::OnMainLoopWake.Broadcast();
 }
 

@@ -32,8 +32,11 @@ public:
 	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
 	void Tick();
 
-	/** Sleeps until there is something to do. Off-screen it returns at once. */
-	void WaitForWork();
+	/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
+	static constexpr double LongestSleep = 1.0;
+
+	/** Sleeps until there is something to do, but no longer than a time in seconds. Off-screen it returns at once. */
+	void WaitForWork(double Longest = LongestSleep);
 
 	/** Ends windows, modules with Python, objects and Slate, in this order. */
 	void Exit();
