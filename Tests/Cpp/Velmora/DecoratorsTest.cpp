@@ -102,10 +102,10 @@ struct FShown
 TEST(Decorators, ColorOnADropTargetIsReadAndNotHandled)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SDropTarget), TEXT("ColorAndOpacity"), "5"),
-			  FLines({TEXT("Velmora: Error: ParseLinearColorValues JsonValue Type Error, Need Array"),
-					  TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Error: ParseLinearColorValues JsonValue Type Error, Need Array"),
+			TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
 	EXPECT_EQ(DecorateAndLog(SNew(SDropTarget), TEXT("ColorAndOpacity"), "[1, 0, 0]"),
-			  FLines({TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SDropTarget not handled, @ /Path")}));
 }
 
 TEST(Decorators, WrongColorPaintsATextMagenta)
@@ -113,16 +113,15 @@ TEST(Decorators, WrongColorPaintsATextMagenta)
 	const TSharedRef<STextBlock> Block = SNew(STextBlock);
 
 	EXPECT_EQ(DecorateAndLog(Block, TEXT("ColorAndOpacity"), "5"),
-			  FLines({TEXT("Velmora: Error: ParseLinearColorValues JsonValue Type Error, Need Array")}));
+		FLines({TEXT("Velmora: Error: ParseLinearColorValues JsonValue Type Error, Need Array")}));
 
 	EXPECT_TRUE(Block->GetColorAndOpacity() == FSlateColor(Magenta));
 }
 
 TEST(Decorators, CompoundWidgetsTakeBothColors)
 {
-	for (const TSharedRef<SCompoundWidget>& Widget :
-		 TArray<TSharedRef<SCompoundWidget>>{SNew(SBorder), SNew(SButton), SNew(SCheckBox), SNew(SScrollBox),
-											 SNew(SEditableTextBox), SNew(SMultiLineEditableTextBox)})
+	for (const TSharedRef<SCompoundWidget>& Widget : TArray<TSharedRef<SCompoundWidget>>{SNew(SBorder), SNew(SButton),
+			 SNew(SCheckBox), SNew(SScrollBox), SNew(SEditableTextBox), SNew(SMultiLineEditableTextBox)})
 	{
 		const std::string Type = TCHAR_TO_UTF8(*Widget->GetType().ToString());
 
@@ -137,14 +136,16 @@ TEST(Decorators, CompoundWidgetsTakeBothColors)
 TEST(Decorators, BoxIsNoCompoundWidget)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SBox), TEXT("ColorAndOpacity"), "[1, 0, 0]"),
-			  FLines({TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SBox not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Warning: Decorate: ColorAndOpacity @ SBox not handled, @ /Path")}));
 }
 
 TEST(Decorators, AutoHeightOnAGridHintsAtTheVerticalBox)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SGridPanel), TEXT("AutoHeight"), "true"),
-			  FLines({TEXT("Velmora: Warning: Decorate: AutoHeight @ SGridPanel not handled, @ /Path"),
-					  TEXT("Velmora: Warning: \t\"AutoHeight\" can be used in SVerticalBox or it's children, not SGridPanel")}));
+		FLines({TEXT("Velmora: Warning: Decorate: AutoHeight @ SGridPanel not handled, @ /Path"),
+			TEXT("Velmora: Warning: \t\"AutoHeight\" can be used in SVerticalBox or it's children, not SGridPanel")}));
+	EXPECT_EQ(DecorateAndLog(SNew(SGridPanel), TEXT("FillHeight"), "1"),
+		FLines({TEXT("Velmora: Warning: Decorate: FillHeight @ SGridPanel not handled, @ /Path")}));
 	EXPECT_EQ(DecorateAndLog(SNew(SVerticalBox), TEXT("AutoHeight"), "true"), FLines());
 }
 
@@ -154,11 +155,11 @@ TEST(Decorators, WrongAlignmentIsReportedTwiceAndFills)
 		SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)[SNew(SBox).WidthOverride(10.0f).HeightOverride(10.0f)];
 
 	EXPECT_EQ(DecorateAndLog(Box, TEXT("HAlign"), R"("Centre")"),
-			  FLines({TEXT("Velmora: Error: ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"),
-					  TEXT("Velmora: Warning: Can't find HAlign By Name: HAlign")}));
+		FLines({TEXT("Velmora: Error: ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"),
+			TEXT("Velmora: Warning: Can't find HAlign By Name: HAlign")}));
 	EXPECT_EQ(DecorateAndLog(Box, TEXT("valign"), R"("Centre")"),
-			  FLines({TEXT("Velmora: Error: ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"),
-					  TEXT("Velmora: Warning: Can't find VAlign By Name: valign")}));
+		FLines({TEXT("Velmora: Error: ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"),
+			TEXT("Velmora: Warning: Can't find VAlign By Name: valign")}));
 
 	EXPECT_EQ(ArrangeChild(Box, FVector2D(100.0, 50.0)).Size, FVector2D(100.0, 50.0));
 }
@@ -181,8 +182,8 @@ TEST(Decorators, UnknownVisibilityDrawsOnlyTheParsersError)
 	const TSharedRef<SBox> Box = SNew(SBox).Visibility(EVisibility::Hidden);
 
 	EXPECT_EQ(DecorateAndLog(Box, TEXT("Visibility"), R"("Gone")"),
-			  FLines({TEXT("Velmora: Error: ParseVisibility Type Error, need String:  "
-						   "Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
+		FLines({TEXT("Velmora: Error: ParseVisibility Type Error, need String:  "
+					 "Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
 	EXPECT_TRUE(Box->GetVisibility() == EVisibility::Hidden);
 
 	EXPECT_EQ(DecorateAndLog(Box, TEXT("Visibility"), R"("Collapsed")"), FLines());
@@ -203,7 +204,7 @@ TEST(Decorators, TextOfAButtonWithAnotherContentIsNotHandled)
 	const TSharedRef<SButton> Button = SNew(SButton)[SNew(SBox)];
 
 	EXPECT_EQ(DecorateAndLog(Button, TEXT("Text"), R"("Press")"),
-			  FLines({TEXT("Velmora: Warning: Decorate: Text @ SButton not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Warning: Decorate: Text @ SButton not handled, @ /Path")}));
 
 	EXPECT_EQ(Outline(Button), FString(TEXT("SButton[SBox]")));
 }
@@ -247,7 +248,7 @@ TEST(Decorators, PaddingOfABoxSurroundsItsContent)
 	EXPECT_EQ(Rect.Size, FVector2D(96.0, 44.0));
 
 	EXPECT_EQ(DecorateAndLog(Box, TEXT("Padding"), R"("wide")"),
-			  FLines({TEXT("Velmora: Error: ParsePaddingValues JsonValue Type Error, Need(Number / Array)")}));
+		FLines({TEXT("Velmora: Error: ParsePaddingValues JsonValue Type Error, Need(Number / Array)")}));
 	EXPECT_EQ(ArrangeChild(Box, FVector2D(100.0, 50.0)).Size, FVector2D(100.0, 50.0));
 }
 
@@ -255,7 +256,7 @@ TEST(Decorators, SlotPaddingOnOtherWidgetsIsIgnoredWithoutAWord)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SVerticalBox), TEXT("SlotPadding"), "3"), FLines());
 	EXPECT_EQ(DecorateAndLog(SNew(SVerticalBox), TEXT("SlotPadding"), "{}"),
-			  FLines({TEXT("Velmora: Error: ParseMargin JsonValue Type Error, Need(Number / Array)")}));
+		FLines({TEXT("Velmora: Error: ParseMargin JsonValue Type Error, Need(Number / Array)")}));
 }
 
 TEST(Decorators, KeyThatCannotReachTheTableIsUnknown)
@@ -284,9 +285,9 @@ TEST(Decorators, ContentPaddingOfAButtonIsWidenedByTheSetting)
 TEST(Decorators, ContentPaddingIsReadForAButtonOnly)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SBorder), TEXT("ContentPadding"), R"("wide")"),
-			  FLines({TEXT("Velmora: Warning: Decorate: ContentPadding @ SBorder not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Warning: Decorate: ContentPadding @ SBorder not handled, @ /Path")}));
 	EXPECT_EQ(DecorateAndLog(SNew(SButton), TEXT("ContentPadding"), R"("wide")"),
-			  FLines({TEXT("Velmora: Error: ParseMargin JsonValue Type Error, Need(Number / Array)")}));
+		FLines({TEXT("Velmora: Error: ParseMargin JsonValue Type Error, Need(Number / Array)")}));
 }
 
 TEST(Decorators, SizesOfABox)
@@ -345,8 +346,8 @@ TEST(Decorators, TextKeysOfTheTextWidgets)
 
 TEST(Decorators, JustificationMovesTheTextOfEveryTextWidget)
 {
-	for (const TSharedRef<SWidget>& Widget : TArray<TSharedRef<SWidget>>{SNew(STextBlock), SNew(SEditableTextBox),
-																		 SNew(SMultiLineEditableTextBox)})
+	for (const TSharedRef<SWidget>& Widget :
+		TArray<TSharedRef<SWidget>>{SNew(STextBlock), SNew(SEditableTextBox), SNew(SMultiLineEditableTextBox)})
 	{
 		DecorateAndLog(Widget, TEXT("Text"), R"("word word")");
 		DecorateAndLog(Widget, TEXT("Justification"), R"("Right")");
@@ -403,7 +404,8 @@ TEST(Decorators, StyleReplacesTheFrameOfATextBox)
 		const std::string Type = TCHAR_TO_UTF8(*Box->GetType().ToString());
 		ASSERT_NE(BorderImageOf(Box), &Style.BackgroundImageNormal) << Type;
 
-		EXPECT_EQ(DecorateAndLog(Box, TEXT("Style"), R"({ "Style": "FAppStyle", "StyleName": "NoSuchStyle" })"), FLines()) << Type;
+		EXPECT_EQ(DecorateAndLog(Box, TEXT("Style"), R"({ "Style": "FAppStyle", "StyleName": "NoSuchStyle" })"), FLines())
+			<< Type;
 
 		EXPECT_EQ(BorderImageOf(Box), &Style.BackgroundImageNormal) << Type;
 	}
@@ -411,10 +413,9 @@ TEST(Decorators, StyleReplacesTheFrameOfATextBox)
 
 TEST(Decorators, MultiLineBoxCannotSelectAllText)
 {
-	EXPECT_EQ(
-		DecorateAndLog(SNew(SMultiLineEditableTextBox), TEXT("SelectAllTextWhenFocused"), "true"),
+	EXPECT_EQ(DecorateAndLog(SNew(SMultiLineEditableTextBox), TEXT("SelectAllTextWhenFocused"), "true"),
 		FLines({TEXT("Velmora: Error: not supported 4.24 SelectAllTextWhenFocused at SMultiLineEditableTextBox "),
-				TEXT("Velmora: Warning: Decorate: SelectAllTextWhenFocused @ SMultiLineEditableTextBox not handled, @ /Path")}));
+			TEXT("Velmora: Warning: Decorate: SelectAllTextWhenFocused @ SMultiLineEditableTextBox not handled, @ /Path")}));
 }
 
 TEST(Decorators, LooksOfATextBlock)
@@ -424,8 +425,8 @@ TEST(Decorators, LooksOfATextBlock)
 	EXPECT_EQ(DecorateAndLog(Block, TEXT("Font"), R"({ "Style": "FCoreStyle", "StyleName": "DefaultFont.Bold.23" })"), FLines());
 	EXPECT_EQ(Block->GetFont().Size, 23);
 	EXPECT_EQ(DecorateAndLog(Block, TEXT("Font"), R"({ "Style": "Mine", "StyleName": "X" })"),
-			  FLines({TEXT("Velmora: Warning: Style: Mine Not Support yet"),
-					  TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
+		FLines(
+			{TEXT("Velmora: Warning: Style: Mine Not Support yet"), TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
 	EXPECT_TRUE(Block->GetFont() == FAppStyle::Get().GetFontStyle("DefaultFont.Italic.12"));
 
 	for (const TCHAR* Key : {TEXT("ShadowOffset"), TEXT("ShadowColorAndOpacity"), TEXT("TextStyle"), TEXT("Justification")})
@@ -465,16 +466,16 @@ TEST(Decorators, ShadowOfATextBlockIsPaintedAtItsOffsetInItsColor)
 TEST(Decorators, FontOnAWidgetWithoutASetterIsReadAndNotHandled)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SBorder), TEXT("Font"), R"({ "Style": "FCoreStyle", "StyleName": "DefaultFont" })"),
-			  FLines({TEXT("Velmora: Warning: Decorate: Font @ SBorder not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Warning: Decorate: Font @ SBorder not handled, @ /Path")}));
 }
 
 TEST(Decorators, StyleIsReadForTextBoxesOnly)
 {
 	EXPECT_EQ(DecorateAndLog(SNew(SBorder), TEXT("Style"), "5"),
-			  FLines({TEXT("Velmora: Warning: Decorate: Style @ SBorder not handled, @ /Path")}));
-	EXPECT_EQ(DecorateAndLog(SNew(SEditableTextBox), TEXT("Style"),
-							 R"({ "Style": "FAppStyle", "StyleName": "NormalEditableTextBox" })"),
-			  FLines());
+		FLines({TEXT("Velmora: Warning: Decorate: Style @ SBorder not handled, @ /Path")}));
+	EXPECT_EQ(DecorateAndLog(
+				  SNew(SEditableTextBox), TEXT("Style"), R"({ "Style": "FAppStyle", "StyleName": "NormalEditableTextBox" })"),
+		FLines());
 }
 
 TEST(Decorators, BorderBackgroundColorMustParse)
@@ -483,8 +484,8 @@ TEST(Decorators, BorderBackgroundColorMustParse)
 
 	EXPECT_EQ(DecorateAndLog(Border, TEXT("BorderBackgroundColor"), "[0, 0, 1]"), FLines());
 	EXPECT_EQ(DecorateAndLog(Border, TEXT("BorderBackgroundColor"), "[0]"),
-			  FLines({TEXT("Velmora: Error: ParseLinearColorValues Error Array Size: 1"),
-					  TEXT("Velmora: Warning: Decorate: BorderBackgroundColor @ SBorder not handled, @ /Path")}));
+		FLines({TEXT("Velmora: Error: ParseLinearColorValues Error Array Size: 1"),
+			TEXT("Velmora: Warning: Decorate: BorderBackgroundColor @ SBorder not handled, @ /Path")}));
 
 	EXPECT_TRUE(Border->GetBorderBackgroundColor() == FSlateColor(FLinearColor(0.0f, 0.0f, 1.0f)));
 }
@@ -492,11 +493,11 @@ TEST(Decorators, BorderBackgroundColorMustParse)
 TEST(Decorators, WrongOrientationLaysAScrollBoxDown)
 {
 	const TSharedRef<SScrollBox> ScrollBox = SNew(SScrollBox) +
-											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)] +
-											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)];
+		SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)] +
+		SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)];
 
 	EXPECT_EQ(DecorateAndLog(ScrollBox, TEXT("Orientation"), R"("Diagonal")"),
-			  FLines({TEXT("Velmora: Error: ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical")}));
+		FLines({TEXT("Velmora: Error: ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical")}));
 
 	ScrollBox->SlatePrepass(1.0f);
 	EXPECT_GE(ScrollBox->GetDesiredSize().X, 60.0);
@@ -505,8 +506,8 @@ TEST(Decorators, WrongOrientationLaysAScrollBoxDown)
 TEST(Decorators, ScrollBoxTurns)
 {
 	const TSharedRef<SScrollBox> ScrollBox = SNew(SScrollBox) +
-											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)] +
-											 SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)];
+		SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)] +
+		SScrollBox::Slot()[SNew(SBox).WidthOverride(30.0f).HeightOverride(10.0f)];
 
 	EXPECT_EQ(DecorateAndLog(ScrollBox, TEXT("Orientation"), R"("Horizontal")"), FLines());
 
@@ -543,17 +544,17 @@ TEST(Decorators, DetailedLogSaysWhoHasHandledAKey)
 	Lines += DecorateAndLog(SNew(SSeparator), TEXT("Thickness"), "{}");
 	bLogCreateWidget = false;
 
-	EXPECT_EQ(Lines, FLines({TEXT("Velmora: Log: Decorate: Padding"),
-							 TEXT("Velmora: Log: Padding: Padding @ SVerticalBox handled In Add Slot.."),
-							 TEXT("Velmora: Log: Decorate: FillColumn"),
-							 TEXT("Velmora: Log: FillColumn: FillColumn @ SGridPanel regard as handled.."),
-							 TEXT("Velmora: Log: Decorate: Text"), TEXT("Velmora: Log: Button content Type: STextBlock"),
-							 TEXT("Velmora: Log: Decorate: Text"), TEXT("Velmora: Log: Button content Type: SBorder"),
-							 TEXT("Velmora: Warning: Decorate: Text @ SButton not handled, @ /Path"),
-							 TEXT("Velmora: Log: Decorate: ButtonStyle"),
-							 TEXT("Velmora: Log: InbornDecorate: ButtonStyle @ SButton regard as handled.."),
-							 TEXT("Velmora: Log: Decorate: Orientation"),
-							 TEXT("Velmora: Log: Orientation: Orientation @ SSeparator regard as handled.."),
-							 TEXT("Velmora: Log: Decorate: Thickness"),
-							 TEXT("Velmora: Log: SSeparator: Thickness @ SSeparator regard as handled..")}));
+	EXPECT_EQ(Lines,
+		FLines({TEXT("Velmora: Log: Decorate: Padding"),
+			TEXT("Velmora: Log: Padding: Padding @ SVerticalBox handled In Add Slot.."),
+			TEXT("Velmora: Log: Decorate: FillColumn"),
+			TEXT("Velmora: Log: FillColumn: FillColumn @ SGridPanel regard as handled.."), TEXT("Velmora: Log: Decorate: Text"),
+			TEXT("Velmora: Log: Button content Type: STextBlock"), TEXT("Velmora: Log: Decorate: Text"),
+			TEXT("Velmora: Log: Button content Type: SBorder"),
+			TEXT("Velmora: Warning: Decorate: Text @ SButton not handled, @ /Path"), TEXT("Velmora: Log: Decorate: ButtonStyle"),
+			TEXT("Velmora: Log: InbornDecorate: ButtonStyle @ SButton regard as handled.."),
+			TEXT("Velmora: Log: Decorate: Orientation"),
+			TEXT("Velmora: Log: Orientation: Orientation @ SSeparator regard as handled.."),
+			TEXT("Velmora: Log: Decorate: Thickness"),
+			TEXT("Velmora: Log: SSeparator: Thickness @ SSeparator regard as handled..")}));
 }

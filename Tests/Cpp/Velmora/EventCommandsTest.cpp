@@ -20,7 +20,7 @@ FText Text(const TCHAR* Value)
 TEST(EventCommands, WidgetPathIsPutInQuotesWhereverItStands)
 {
 	EXPECT_EQ(FillWidgetPath(TEXT("f(%WidgetPath, %widgetpath) % 2"), TEXT("/SBox/SButton")),
-			  FString(TEXT("f(\"/SBox/SButton\", \"/SBox/SButton\") % 2")));
+		FString(TEXT("f(\"/SBox/SButton\", \"/SBox/SButton\") % 2")));
 }
 
 TEST(EventCommands, ClickRunsItsCommandAsItStands)
@@ -99,7 +99,7 @@ TEST(EventCommands, CommitRunsWhateverHasMadeIt)
 	const FOnTextCommitted Handler = MakeTextCommittedHandler(TEXT("commit"));
 
 	for (const ETextCommit::Type Commit :
-		 {ETextCommit::Default, ETextCommit::OnEnter, ETextCommit::OnUserMovedFocus, ETextCommit::OnCleared})
+		{ETextCommit::Default, ETextCommit::OnEnter, ETextCommit::OnUserMovedFocus, ETextCommit::OnCleared})
 	{
 		Handler.Execute(Text(TEXT("x")), Commit);
 	}
@@ -142,6 +142,6 @@ TEST(EventCommands, DetailedLogTellsTheClick)
 	MakeClickHandler(FString()).Execute();
 	bLogCreateWidget = false;
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: Button Clicked. Command: loud()"),
-								   TEXT("Velmora: Log: Button Clicked. Command: ")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Log: Button Clicked. Command: loud()"), TEXT("Velmora: Log: Button Clicked. Command: ")}));
 }

@@ -17,7 +17,7 @@ const FVector2D PanelSize(100.0, 200.0);
 FChildRect ArrangeSlot(const char* Panel, const char* SlotKeys)
 {
 	const std::string Root = std::string("{ \"") + Panel + "\": { \"Slots\": [ { " + SlotKeys +
-							 "\"SBox\": { \"WidthOverride\": 10, \"HeightOverride\": 20 } } ] } }";
+		"\"SBox\": { \"WidthOverride\": 10, \"HeightOverride\": 20 } } ] } }";
 	return ArrangeChild(BuildTree(Root.c_str()), PanelSize);
 }
 
@@ -84,8 +84,9 @@ TEST(SlotAttachment, WrongValuesLeaveTheDefaults)
 	EXPECT_FALSE(Request.bAutoHeight);
 	EXPECT_EQ(Request.FillWidth, FSlotRequest::NoFill);
 	EXPECT_EQ(Request.HAlign, HAlign_Fill);
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParsePaddingValues JsonValue Type Error, Need(Number / Array)"),
-									TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right")}));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("ParsePaddingValues JsonValue Type Error, Need(Number / Array)"),
+			TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right")}));
 }
 
 TEST(SlotAttachment, SwitchesConvertAsJsonValuesDoAndFillsAreNumbersOnly)
@@ -116,7 +117,7 @@ TEST(SlotAttachment, ScrollBoxPadsItsChildrenAndReadsNothingElse)
 	const auto DesiredSize = [](const char* SlotKeys)
 	{
 		const std::string Root = std::string(R"({ "SScrollBox": { "Slots": [ { )") + SlotKeys +
-								 R"("SBox": { "WidthOverride": 10, "HeightOverride": 20 } } ] } })";
+			R"("SBox": { "WidthOverride": 10, "HeightOverride": 20 } } ] } })";
 		const TSharedRef<SWidget> Panel = BuildTree(Root.c_str());
 		Panel->SlatePrepass(1.0f);
 		return Panel->GetDesiredSize();
@@ -126,8 +127,8 @@ TEST(SlotAttachment, ScrollBoxPadsItsChildrenAndReadsNothingElse)
 	const FLogCapture Log(TEXT("Velmora"));
 	DesiredSize(R"("HAlign": "Right", "AutoHeight": true, )");
 	EXPECT_EQ(Log.Lines(),
-			  FLines({TEXT("Velmora: Warning: Decorate: HAlign @ SScrollBox not handled, @ /SScrollBox/Slots_0"),
-					  TEXT("Velmora: Warning: Decorate: AutoHeight @ SScrollBox not handled, @ /SScrollBox/Slots_0")}));
+		FLines({TEXT("Velmora: Warning: Decorate: HAlign @ SScrollBox not handled, @ /SScrollBox/Slots_0"),
+			TEXT("Velmora: Warning: Decorate: AutoHeight @ SScrollBox not handled, @ /SScrollBox/Slots_0")}));
 }
 
 TEST(SlotAttachment, WidgetThatIsNoPanelLosesTheChild)
@@ -148,7 +149,7 @@ TEST(SlotAttachment, DetailedLogTellsThePadding)
 		const TSharedRef<SWidget> Box = BuildTree(R"({ "SHorizontalBox": {} })");
 		FSlotRequest Request;
 		for (const TArray<float>& Values :
-			 {TArray<float>{1}, TArray<float>{1, 2}, TArray<float>{1, 2, 3, 4}, TArray<float>{1, 2, 3}})
+			{TArray<float>{1}, TArray<float>{1, 2}, TArray<float>{1, 2, 3, 4}, TArray<float>{1, 2, 3}})
 		{
 			Request.PaddingValues = Values;
 			AttachWidget(Box, BuildTree(R"({ "SBox": {} })"), Request);
@@ -158,10 +159,11 @@ TEST(SlotAttachment, DetailedLogTellsThePadding)
 	bLogCreateWidget = false;
 
 	const FString First = TEXT("Velmora: Log: Apply PaddingValues: 1.000000");
-	EXPECT_EQ(Lines, FLines({First, TEXT("Velmora: Log: \tApply padding 1.000000  "), First,
-							 TEXT("Velmora: Log: \tApply padding 1.000000 2.000000"), First,
-							 TEXT("Velmora: Log: \tApply padding 1.000000 2.000000 3.000000 4.000000"), First,
-							 TEXT("Velmora: Error: Apply ParsePaddingValues Error Array Size: 3")}));
+	EXPECT_EQ(Lines,
+		FLines({First, TEXT("Velmora: Log: \tApply padding 1.000000  "), First,
+			TEXT("Velmora: Log: \tApply padding 1.000000 2.000000"), First,
+			TEXT("Velmora: Log: \tApply padding 1.000000 2.000000 3.000000 4.000000"), First,
+			TEXT("Velmora: Error: Apply ParsePaddingValues Error Array Size: 3")}));
 }
 
 TEST(SlotAttachment, DetailedLogTellsTheFirstNumberOfAHorizontalBoxOnly)

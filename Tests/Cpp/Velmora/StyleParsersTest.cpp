@@ -60,7 +60,7 @@ TEST(ParseFontInfo, DefaultFontHasAFaceOnlyInTheCoreStyleAndBetweenTwoDots)
 	FSlateFontInfo Expected = FAppStyle::Get().GetFontStyle("De");
 	Expected.Size = 10;
 	for (const char* Json : {R"({ "Style": "FCoreStyle", "StyleName": "DefaultFont.10" })",
-							 R"({ "Style": "FAppStyle", "StyleName": "DefaultFont.Bold.10" })"})
+			 R"({ "Style": "FAppStyle", "StyleName": "DefaultFont.Bold.10" })"})
 	{
 		FSlateFontInfo Font;
 
@@ -103,11 +103,10 @@ TEST(ParseFontInfo, EveryFaultFallsBackToOneFont)
 	EXPECT_FALSE(ParseFontInfo(JsonValue(R"({ "Style": "Mine", "StyleName": "X" })"), Font));
 	EXPECT_TRUE(Font == FallbackFont());
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: ParseFontInfo JsonValue Type Error, Need Object"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
-								   TEXT("Velmora: Warning: Style: Mine Not Support yet"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Error: ParseFontInfo JsonValue Type Error, Need Object"),
+			TEXT("Velmora: Warning: ParseFontInfo Default Font used"), TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
+			TEXT("Velmora: Warning: Style: Mine Not Support yet"), TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
 }
 
 TEST(ParseFontInfo, NoValueLeavesTheFont)
@@ -145,11 +144,10 @@ TEST(ParseStyleBrush, EveryFaultGivesTheBrushWithoutABorder)
 	}
 
 	const FString Default = TEXT("Velmora: Warning: Parse Image Brush failed, Default Image was used.");
-	EXPECT_EQ(
-		Log.Lines(),
+	EXPECT_EQ(Log.Lines(),
 		FLines({TEXT("Velmora: Error: ParseStyleBrush JsonValue Type Error, Need Object"), Default, Default,
-				TEXT("Velmora: Warning: Style: Mine Not Support yet. Supperted Style: FEditorStyle, FCoreStyle and FAppStyle."),
-				Default}));
+			TEXT("Velmora: Warning: Style: Mine Not Support yet. Supperted Style: FEditorStyle, FCoreStyle and FAppStyle."),
+			Default}));
 }
 
 TEST(ParseWidgetStyle, EveryFaultLeavesTheOutputAndSpeaksOfAFont)
@@ -162,11 +160,10 @@ TEST(ParseWidgetStyle, EveryFaultLeavesTheOutputAndSpeaksOfAFont)
 	EXPECT_FALSE(ParseWidgetStyle(JsonValue(R"({ "Style": "Mine", "StyleName": "Button" })"), Style));
 
 	EXPECT_EQ(Style, nullptr);
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: ParseWidgetStyle JsonValue Type Error, Need Object"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
-								   TEXT("Velmora: Warning: Style: Mine Not Support yet"),
-								   TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Error: ParseWidgetStyle JsonValue Type Error, Need Object"),
+			TEXT("Velmora: Warning: ParseFontInfo Default Font used"), TEXT("Velmora: Warning: ParseFontInfo Default Font used"),
+			TEXT("Velmora: Warning: Style: Mine Not Support yet"), TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
 }
 
 TEST(ParseWidgetStyle, AllThreeStyleSetsLeadToOne)
@@ -193,8 +190,9 @@ TEST(StyleParsers, DetailedLogNamesWhatIsLookedUp)
 	ParseWidgetStyle(JsonValue(R"({ "Style": "FCoreStyle", "StyleName": "Button" })"), Style);
 	bLogCreateWidget = false;
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Log: ParseFontInfo Style FCoreStyle, FontStyle: DefaultFont"),
-								   TEXT("Velmora: Log: ParseWidgetStyle Style FCoreStyle, FontStyle: Button")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Log: ParseFontInfo Style FCoreStyle, FontStyle: DefaultFont"),
+			TEXT("Velmora: Log: ParseWidgetStyle Style FCoreStyle, FontStyle: Button")}));
 }
 
 TEST(StyleParsers, MissingNamesAreReportedByTheJsonAccessor)

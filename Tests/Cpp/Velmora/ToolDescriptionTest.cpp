@@ -393,8 +393,9 @@ TEST(DataAndTabLabel, ValuesThatAreNoTextAreReportedByTheJsonValueAndCountAsEmpt
 
 	EXPECT_EQ(Label, FString());
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: Default data used.")}));
-	EXPECT_EQ(Json.Errors(), FLines({TEXT("Json Value of type 'Array' used as a 'String'."),
-									 TEXT("Json Value of type 'Object' used as a 'String'.")}));
+	EXPECT_EQ(Json.Errors(),
+		FLines(
+			{TEXT("Json Value of type 'Array' used as a 'String'."), TEXT("Json Value of type 'Object' used as a 'String'.")}));
 }
 
 TEST(DescriptionCommands, StringOfAnyNameIsFoundIfItHasACharacter)

@@ -76,11 +76,12 @@ TEST(Spellings, ValueThatIsNoTextIsReportedLikeAWrongWord)
 	ExpectRefused(&ParseOrientation, "null", Orient_Vertical, Orient_Horizontal);
 	ExpectRefused(&ParseVisibility, "5", EVisibility::Hidden, EVisibility::Visible);
 
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"),
-									TEXT("ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"),
-									TEXT("ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical"),
-									TEXT("ParseVisibility Type Error, need String:  "
-										 "Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"),
+			TEXT("ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"),
+			TEXT("ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical"),
+			TEXT("ParseVisibility Type Error, need String:  "
+				 "Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
 }
 
 TEST(ParseVAlign, FillHasASpellingOfItsOwn)
@@ -133,8 +134,8 @@ TEST(ParseVisibility, UnknownNameIsReportedAndVisible)
 	ExpectRefused(&ParseVisibility, R"("Gone")", EVisibility::Hidden, EVisibility::Visible);
 
 	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT(
-				  "ParseVisibility Type Error, need String:  Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
+		FLines(
+			{TEXT("ParseVisibility Type Error, need String:  Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible")}));
 }
 
 TEST(ParseBarFillType, OutputStaysAsItWasOnFailure)
@@ -150,8 +151,9 @@ TEST(ParseBarFillType, OutputStaysAsItWasOnFailure)
 	EXPECT_EQ(Log.Errors(), FLines());
 
 	ExpectRefused(&ParseBarFillType, R"("UseMaterial")", EProgressBarFillType::TopToBottom, EProgressBarFillType::TopToBottom);
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseBarFillType Type Error, need String:  "
-										 "LeftToRight/RightToLeft/FillFromCenter/TopToBottom/BottomToTop/UseMaterial")}));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("ParseBarFillType Type Error, need String:  "
+					 "LeftToRight/RightToLeft/FillFromCenter/TopToBottom/BottomToTop/UseMaterial")}));
 }
 
 TEST(ParseResizeMode, FixedPositionOnFailure)
@@ -176,14 +178,14 @@ TEST(ParseTextWrappingPolicy, DefaultOnFailure)
 	ExpectParsed(&ParseTextWrappingPolicy, R"("percharacter")", ETextWrappingPolicy::AllowPerCharacterWrapping);
 	ExpectParsed(&ParseTextWrappingPolicy, R"("DefaultWrapping")", ETextWrappingPolicy::DefaultWrapping);
 	ExpectParsed(&ParseTextWrappingPolicy, R"("Default")", ETextWrappingPolicy::DefaultWrapping);
-	ExpectRefused(&ParseTextWrappingPolicy, "1", ETextWrappingPolicy::AllowPerCharacterWrapping,
-				  ETextWrappingPolicy::DefaultWrapping);
+	ExpectRefused(
+		&ParseTextWrappingPolicy, "1", ETextWrappingPolicy::AllowPerCharacterWrapping, ETextWrappingPolicy::DefaultWrapping);
 	EXPECT_EQ(Log.Errors(), FLines());
 
 	ExpectRefused(&ParseTextWrappingPolicy, R"("None")", ETextWrappingPolicy::AllowPerCharacterWrapping,
-				  ETextWrappingPolicy::DefaultWrapping);
+		ETextWrappingPolicy::DefaultWrapping);
 	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT("ParseTextWrappingPolicy Type Error, need String:  AllowPerCharacterWrapping/DefaultWrapping")}));
+		FLines({TEXT("ParseTextWrappingPolicy Type Error, need String:  AllowPerCharacterWrapping/DefaultWrapping")}));
 }
 
 TEST(ParseJustification, AnyOtherStringIsLeft)
@@ -256,8 +258,8 @@ TEST(ParsePaddingValues, OtherSizesFailWithTheSizeInTheMessage)
 	EXPECT_EQ(Values, TArray<float>());
 	EXPECT_TRUE(Margin == FMargin(9.0f));
 	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT("ParsePaddingValues Error Array Size: 3"), TEXT("ParsePaddingValues Error Array Size: 0"),
-					  TEXT("ParsePaddingValues JsonValue Type Error, Need(Number / Array)")}));
+		FLines({TEXT("ParsePaddingValues Error Array Size: 3"), TEXT("ParsePaddingValues Error Array Size: 0"),
+			TEXT("ParsePaddingValues JsonValue Type Error, Need(Number / Array)")}));
 }
 
 TEST(ParseMargin, SaysItsOwnNameAndLeavesTheOutput)
@@ -269,7 +271,7 @@ TEST(ParseMargin, SaysItsOwnNameAndLeavesTheOutput)
 	ExpectRefused(&ParseMargin, "{}", FMargin(9.0f), FMargin(9.0f));
 
 	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT("ParseMargin Error Array Size: 3"), TEXT("ParseMargin JsonValue Type Error, Need(Number / Array)")}));
+		FLines({TEXT("ParseMargin Error Array Size: 3"), TEXT("ParseMargin JsonValue Type Error, Need(Number / Array)")}));
 }
 
 TEST(ParseLinearColorValues, ThreeNumbersAreOpaque)
@@ -287,9 +289,9 @@ TEST(ParseLinearColorValues, MagentaShowsAWrongValue)
 	ExpectRefused(&ParseLinearColorValues, "[1, 1]", FLinearColor::White, Magenta);
 	ExpectRefused(&ParseLinearColorValues, "5", FLinearColor::White, Magenta);
 
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("ParseLinearColorValues Error Array Size: 5"),
-									TEXT("ParseLinearColorValues Error Array Size: 2"),
-									TEXT("ParseLinearColorValues JsonValue Type Error, Need Array")}));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("ParseLinearColorValues Error Array Size: 5"), TEXT("ParseLinearColorValues Error Array Size: 2"),
+			TEXT("ParseLinearColorValues JsonValue Type Error, Need Array")}));
 }
 
 TEST(ParseVector2D, ZeroOnFailure)
@@ -301,7 +303,7 @@ TEST(ParseVector2D, ZeroOnFailure)
 	ExpectRefused(&ParseVector2D, "true", FVector2D(9.0, 9.0), FVector2D::ZeroVector);
 
 	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT("ParseVector2D Error Array Size: 1"), TEXT("ParseVector2D JsonValue Type Error, Need Array")}));
+		FLines({TEXT("ParseVector2D Error Array Size: 1"), TEXT("ParseVector2D JsonValue Type Error, Need Array")}));
 }
 
 TEST(ParseVector, TypeErrorNamesTheOtherVector)
@@ -312,8 +314,8 @@ TEST(ParseVector, TypeErrorNamesTheOtherVector)
 	ExpectRefused(&ParseVector, "[1, 2]", FVector(9.0, 9.0, 9.0), FVector::ZeroVector);
 	ExpectRefused(&ParseVector, "1", FVector(9.0, 9.0, 9.0), FVector::ZeroVector);
 
-	EXPECT_EQ(Log.Errors(),
-			  FLines({TEXT("ParseVector Error Array Size: 2"), TEXT("ParseVector2D JsonValue Type Error, Need Array")}));
+	EXPECT_EQ(
+		Log.Errors(), FLines({TEXT("ParseVector Error Array Size: 2"), TEXT("ParseVector2D JsonValue Type Error, Need Array")}));
 }
 
 TEST(ParseIntArray, EntriesThatAreNoNumbersAreSkippedWithOneMessageEach)
@@ -393,8 +395,8 @@ TEST(ParseColumnRow, EntriesConvertToIntegersAsJsonValuesDo)
 TEST(ParseColumnRow, EachFaultHasItsMessageAndGivesMinusOne)
 {
 	const FLogCapture Log(TEXT("Velmora"));
-	for (const char* Json : {R"({})", R"({ "Column_Row": [1] })", R"({ "Column_Row": [1, null] })",
-							 R"({ "Column_Row": [3e9, 1] })"})
+	for (const char* Json :
+		{R"({})", R"({ "Column_Row": [1] })", R"({ "Column_Row": [1, null] })", R"({ "Column_Row": [3e9, 1] })"})
 	{
 		int32 Column = 9;
 		int32 Row = 9;
@@ -403,10 +405,10 @@ TEST(ParseColumnRow, EachFaultHasItsMessageAndGivesMinusOne)
 		EXPECT_EQ(Row, -1) << Json;
 	}
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: Can't find ArrayFiled: Column_Row"),
-								   TEXT("Velmora: Error: ColumnRowValues->Num() != 2"),
-								   TEXT("Velmora: Error: Parse ColumnRowValues error "),
-								   TEXT("Velmora: Error: Parse ColumnRowValues error 3000000000")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Warning: Can't find ArrayFiled: Column_Row"), TEXT("Velmora: Error: ColumnRowValues->Num() != 2"),
+			TEXT("Velmora: Error: Parse ColumnRowValues error "),
+			TEXT("Velmora: Error: Parse ColumnRowValues error 3000000000")}));
 }
 
 TEST(ParseFillColumn, PairsInFrontOfAnErrorStay)
@@ -422,8 +424,9 @@ TEST(ParseFillColumn, PairsInFrontOfAnErrorStay)
 	EXPECT_EQ(Fill.Num(), 1);
 	EXPECT_FALSE(ParseFillColumn(JsonObject("{}"), Fill));
 
-	EXPECT_EQ(Log.Errors(), FLines({TEXT("\tGetFillColumn OutArray->Num !=2"), TEXT("\tGetFillColumn PairVlaue Not array"),
-									TEXT("\tCan't find FillColumn")}));
+	EXPECT_EQ(Log.Errors(),
+		FLines({TEXT("\tGetFillColumn OutArray->Num !=2"), TEXT("\tGetFillColumn PairVlaue Not array"),
+			TEXT("\tCan't find FillColumn")}));
 }
 
 TEST(ParseFillColumn, MapIsEmptiedAtTheFirstPairOfNumbers)

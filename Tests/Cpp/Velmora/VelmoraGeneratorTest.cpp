@@ -75,9 +75,9 @@ TEST(VelmoraGenerator, FileThatDoesNotParseShowsTheReason)
 	const FString Path = Project.Write(TEXT("Tool.json"), "{ nonsense");
 
 	EXPECT_EQ(ErrorTextOf(GenerateWidgetFromFile(Path, TEXT("Root"), nullptr)),
-			  TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' "));
+		TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' "));
 	EXPECT_EQ(ErrorTextOf(GenerateWidgetFromFile(TEXT("/nowhere.json"), TEXT("Root"), nullptr)),
-			  FString(TEXT("Json File: /nowhere.json is Not exists")));
+		FString(TEXT("Json File: /nowhere.json is Not exists")));
 }
 
 TEST(VelmoraGenerator, ErrorTextStandsFourUnitsFromTheEdge)
@@ -208,8 +208,9 @@ TEST(VelmoraGenerator, StructureKeysMindCaseAndTheOthersDoNot)
 	const TSharedPtr<FTagMetaData> Tag = Tree->GetMetaData<FTagMetaData>();
 	ASSERT_TRUE(Tag.IsValid());
 	EXPECT_EQ(Tag->Tag, FName("Box"));
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: \tNot Supported KeyName: content @ SBox"),
-								   TEXT("Velmora: Warning: \tNot Supported KeyName: slots @ SBox")}));
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Warning: \tNot Supported KeyName: content @ SBox"),
+			TEXT("Velmora: Warning: \tNot Supported KeyName: slots @ SBox")}));
 }
 
 TEST(VelmoraGenerator, SlotsOfAWrongTypeLeaveTheWidgetEmpty)
@@ -219,12 +220,12 @@ TEST(VelmoraGenerator, SlotsOfAWrongTypeLeaveTheWidgetEmpty)
 	EXPECT_EQ(Outline(BuildTree(R"({ "SVerticalBox": { "Slots": { "SBox": {} } } })")), FString(TEXT("SVerticalBox")));
 	EXPECT_EQ(Outline(BuildTree(R"({ "SBorder": { "Slots": "SBox" } })")), FString(TEXT("SBorder")));
 	EXPECT_EQ(Outline(BuildTree(R"({ "SVerticalBox": { "Slots": [ "SBox", { "SBox": {} } ] } })")),
-			  FString(TEXT("SVerticalBox[SBox]")));
+		FString(TEXT("SVerticalBox[SBox]")));
 
 	EXPECT_EQ(Log.Lines(),
-			  FLines({TEXT("Velmora: Log: \tSlots Should be Array Type, KeyName: Slots  parent: SVerticalBox"),
-					  TEXT("Velmora: Log: \tSlots Should be Array Type, KeyName: Slots  parent: SBorder"),
-					  TEXT("Velmora: Log: \tSlots Element should be Object Type, KeyName: Slots  parent: SVerticalBox")}));
+		FLines({TEXT("Velmora: Log: \tSlots Should be Array Type, KeyName: Slots  parent: SVerticalBox"),
+			TEXT("Velmora: Log: \tSlots Should be Array Type, KeyName: Slots  parent: SBorder"),
+			TEXT("Velmora: Log: \tSlots Element should be Object Type, KeyName: Slots  parent: SVerticalBox")}));
 }
 
 TEST(VelmoraGenerator, PathSpellsTypesAsSlateDoes)
@@ -263,9 +264,10 @@ TEST(VelmoraGenerator, SpinBoxOrTrailOfAnUnknownTypeWarns)
 	EXPECT_EQ(Outline(BuildTree(R"({ "SSpinBox": { "Type": [] } })")), FString(TEXT("SBorder")));
 	EXPECT_EQ(Outline(BuildTree(R"({ "SBox": { "SBreadcrumbTrail": { "Type": "Float" } } })")), FString(TEXT("SBox")));
 
-	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Warning: SpinBox of type: Double not implement"),
-								   TEXT("Velmora: Warning: SpinBox of type:  not implement"),
-								   TEXT("Velmora: Warning: \tSpinBox of type: float not implement")}))
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Warning: SpinBox of type: Double not implement"),
+			TEXT("Velmora: Warning: SpinBox of type:  not implement"),
+			TEXT("Velmora: Warning: \tSpinBox of type: float not implement")}))
 		<< "a trail's type is named in small letters";
 }
 
@@ -281,8 +283,8 @@ TEST(VelmoraGenerator, HeaderRowAsAnOrdinaryChildIsNothingWithoutAMessage)
 TEST(VelmoraGenerator, EveryWidgetTypeIsBuiltUnderItsNameOrIsAnError)
 {
 	const TSet<FString> Buildable = {TEXT("SBox"), TEXT("SBorder"), TEXT("SButton"), TEXT("SScrollBox"), TEXT("SVerticalBox"),
-									 TEXT("SHorizontalBox"), TEXT("SCheckBox"), TEXT("STextBlock"), TEXT("SEditableTextBox"),
-									 TEXT("SMultiLineEditableTextBox")};
+		TEXT("SHorizontalBox"), TEXT("SCheckBox"), TEXT("STextBlock"), TEXT("SEditableTextBox"),
+		TEXT("SMultiLineEditableTextBox")};
 	for (const FString& Type : WidgetTypes)
 	{
 		const FLogCapture Log(TEXT("Velmora"));
@@ -373,16 +375,16 @@ TEST(VelmoraGenerator, DetailedLogTellsTheWalk)
 	BuildTree(R"({ "SVerticalBox": { "Slots": [ { "SBox": {} }, { "AutoHeight": true, "Columns": 1 } ] } })");
 
 	EXPECT_EQ(Log.Lines(),
-			  FLines({TEXT("Velmora: Log: Build call FieldName: SVerticalBox  parent: SBorder   : /"),
-					  TEXT("Velmora: Log: \tBuild call FieldName: Slots  parent: SVerticalBox   : /SVerticalBox"),
-					  TEXT("Velmora: Log: \tIsSlots: Slots"),
-					  TEXT("Velmora: Log: \t\tBuild call FieldName: SBox  parent: SVerticalBox   : /SVerticalBox/Slots_0"),
-					  TEXT("Velmora: Log: \tAddSlot: SBox -> SVerticalBox"),
-					  TEXT("Velmora: Log: \t\tBuild call FieldName: AutoHeight  parent: SVerticalBox   : /SVerticalBox/Slots_1"),
-					  TEXT("Velmora: Log: Decorate: AutoHeight"),
-					  TEXT("Velmora: Log: InbornDecorate: AutoHeight @ SVerticalBox regard as handled.."),
-					  TEXT("Velmora: Log: \t\tBuild call FieldName: Columns  parent: SVerticalBox   : /SVerticalBox/Slots_1"),
-					  TEXT("Velmora: Log: InbornDecorate: Columns @ SVerticalBox regard as handled..")}));
+		FLines({TEXT("Velmora: Log: Build call FieldName: SVerticalBox  parent: SBorder   : /"),
+			TEXT("Velmora: Log: \tBuild call FieldName: Slots  parent: SVerticalBox   : /SVerticalBox"),
+			TEXT("Velmora: Log: \tIsSlots: Slots"),
+			TEXT("Velmora: Log: \t\tBuild call FieldName: SBox  parent: SVerticalBox   : /SVerticalBox/Slots_0"),
+			TEXT("Velmora: Log: \tAddSlot: SBox -> SVerticalBox"),
+			TEXT("Velmora: Log: \t\tBuild call FieldName: AutoHeight  parent: SVerticalBox   : /SVerticalBox/Slots_1"),
+			TEXT("Velmora: Log: Decorate: AutoHeight"),
+			TEXT("Velmora: Log: InbornDecorate: AutoHeight @ SVerticalBox regard as handled.."),
+			TEXT("Velmora: Log: \t\tBuild call FieldName: Columns  parent: SVerticalBox   : /SVerticalBox/Slots_1"),
+			TEXT("Velmora: Log: InbornDecorate: Columns @ SVerticalBox regard as handled..")}));
 }
 
 TEST(VelmoraGenerator, IndentIsOneTabPerLevel)

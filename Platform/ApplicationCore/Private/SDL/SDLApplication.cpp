@@ -209,9 +209,8 @@ void FSDLApplication::NoteCursor(uint32 WindowId, int32 X, int32 Y)
 	}
 }
 
-void FSDLApplication::NoteModifiers()
+void FSDLApplication::NoteModifiers(const uint16 Down)
 {
-	const SDL_Keymod Down = SDL_GetModState();
 	ModifierKeys = FModifierKeysState((Down & KMOD_LSHIFT) != 0, (Down & KMOD_RSHIFT) != 0, (Down & KMOD_LCTRL) != 0,
 									  (Down & KMOD_RCTRL) != 0, (Down & KMOD_LALT) != 0, (Down & KMOD_RALT) != 0,
 									  (Down & KMOD_LGUI) != 0, (Down & KMOD_RGUI) != 0, (Down & KMOD_CAPS) != 0);
@@ -231,7 +230,6 @@ void FSDLApplication::Handle(const SDL_Event& Event)
 		case SDL_MOUSEMOTION:
 			if (!IsMoveFollowed())
 			{
-				NoteModifiers();
 				NoteCursor(Event.motion.windowID, Event.motion.x, Event.motion.y);
 				MessageHandler->OnMouseMove();
 			}
@@ -241,7 +239,6 @@ void FSDLApplication::Handle(const SDL_Event& Event)
 			HandleMouseButton(Event.button);
 			break;
 		case SDL_MOUSEWHEEL:
-			NoteModifiers();
 			NoteCursor(Event.wheel.windowID, Event.wheel.mouseX, Event.wheel.mouseY);
 			if (Event.wheel.preciseY != 0.0f)
 			{
@@ -258,7 +255,7 @@ void FSDLApplication::Handle(const SDL_Event& Event)
 
 void FSDLApplication::HandleKey(const SDL_KeyboardEvent& Event)
 {
-	NoteModifiers();
+	NoteModifiers(Event.keysym.mod);
 	const bool bRepeat = Event.repeat != 0;
 	const int32 KeyCode = int32(Event.keysym.scancode);
 	const uint32 CharacterCode = ToCharacterCode(Event.keysym.sym);
@@ -294,7 +291,6 @@ void FSDLApplication::HandleMouseButton(const SDL_MouseButtonEvent& Event)
 		return;
 	}
 
-	NoteModifiers();
 	NoteCursor(Event.windowID, Event.x, Event.y);
 	const FVector2D Position = DesktopCursor->GetPosition();
 	if (Event.type == SDL_MOUSEBUTTONUP)

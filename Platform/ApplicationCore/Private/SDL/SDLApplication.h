@@ -41,7 +41,9 @@ private:
 
 	/** Takes the cursor's position from a report, which tells it relative to a window. */
 	void NoteCursor(uint32 WindowId, int32 X, int32 Y);
-	void NoteModifiers();
+
+	/** Modifier keys are known as of the last key event that was handled: what SDL would tell now belongs to the last one that came. */
+	void NoteModifiers(uint16 Down);
 	TSharedPtr<FSDLWindow> FindWindow(uint32 WindowId) const;
 
 	TSharedRef<FSDLCursor> DesktopCursor;

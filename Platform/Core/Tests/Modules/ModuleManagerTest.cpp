@@ -84,7 +84,7 @@ TEST_F(ModuleManager, EntryOfADependencyIsNotTakenForTheLibrarysOwn)
 TEST_F(ModuleManager, BrokenLibraryIsReportedWithItsFile)
 {
 	const FTempProject Project;
-	const FString File = Project.Write(TEXT("libKestrixEditor-BrokenModule.so"), TEXT("no library"));
+	const FString File = Project.Write(TEXT("libKestrixEditor-BrokenModule" KESTRIX_BUILD_SUFFIX ".so"), TEXT("no library"));
 	Modules.AddBinariesDirectory(*Project.GetDir(), false);
 
 	const FLogCapture Log(TEXT("LogModuleManager"));
@@ -99,7 +99,7 @@ TEST_F(ModuleManager, LibraryOfAPluginIsFoundInABinariesDirectory)
 {
 	const FTempProject Project;
 	const FString Library = FString(FPlatformProcess::BaseDir()) + TEXT("libCoreTestModule.so");
-	IFileManager::Get().Copy(*Project.Path(TEXT("Binaries/Linux/libKestrixEditor-PluginModule.so")), *Library);
+	IFileManager::Get().Copy(*Project.Path(TEXT("Binaries/Linux/libKestrixEditor-PluginModule" KESTRIX_BUILD_SUFFIX ".so")), *Library);
 	EXPECT_FALSE(Modules.ModuleExists(TEXT("PluginModule")));
 
 	Modules.AddBinariesDirectory(*Project.Path(TEXT("Binaries/Linux")), false);

@@ -46,7 +46,7 @@ TEST(ButtonBuilder, ColorTintsTheButton)
 {
 	EXPECT_TRUE(BuildButton(R"({ "SButton": {} })")->GetBorderBackgroundColor() == FSlateColor(FLinearColor::White));
 	EXPECT_TRUE(BuildButton(R"({ "SButton": { "ButtonColorAndOpacity": [1, 0.5, 0] } })")->GetBorderBackgroundColor() ==
-				FSlateColor(FLinearColor(1.0f, 0.5f, 0.0f)));
+		FSlateColor(FLinearColor(1.0f, 0.5f, 0.0f)));
 }
 
 TEST(ButtonBuilder, WrongColorShowsAsMagenta)
@@ -83,8 +83,8 @@ TEST(ButtonBuilder, WrongStylesAreReportedAndTheButtonStands)
 	const TSharedRef<SButton> Button = BuildButton(R"({ "SButton": { "ButtonStyle": 5, "TextStyle": 5, "Text": "x" } })");
 
 	EXPECT_EQ(Outline(Button), FString(TEXT("SButton[STextBlock]")));
-	EXPECT_TRUE(As<STextBlock>(Button->GetContent())->GetFont() ==
-				FAppStyle::Get().GetWidgetStyle<FTextBlockStyle>("ButtonText").Font);
+	EXPECT_TRUE(
+		As<STextBlock>(Button->GetContent())->GetFont() == FAppStyle::Get().GetWidgetStyle<FTextBlockStyle>("ButtonText").Font);
 	const FString Error = TEXT("Velmora: Error: ParseWidgetStyle JsonValue Type Error, Need Object");
 	const FString Warning = TEXT("Velmora: Warning: ParseFontInfo Default Font used");
 	EXPECT_EQ(Log.Lines(), FLines({Error, Warning, Error, Warning, Error, Warning}))
@@ -122,7 +122,7 @@ TEST(CheckBoxBuilder, OnlyAJsonTrueChecksIt)
 {
 	EXPECT_TRUE(IsChecked(R"({ "SCheckBox": { "IsChecked": true } })"));
 	for (const char* Root : {R"({ "SCheckBox": {} })", R"({ "SCheckBox": { "IsChecked": false } })",
-							 R"({ "SCheckBox": { "IsChecked": "true" } })", R"({ "SCheckBox": { "IsChecked": 1 } })"})
+			 R"({ "SCheckBox": { "IsChecked": "true" } })", R"({ "SCheckBox": { "IsChecked": 1 } })"})
 	{
 		EXPECT_FALSE(IsChecked(Root)) << Root;
 	}
@@ -136,8 +136,9 @@ TEST(CheckBoxBuilder, WrongAlignmentWarnsAndTheWidgetIsBuilt)
 
 	EXPECT_EQ(CheckBox->GetType(), FName("SCheckBox"));
 	const FString Error = TEXT("Velmora: Error: ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right");
-	EXPECT_EQ(Log.Lines(), FLines({Error, TEXT("Velmora: Warning: Parse HAlign Failed when ParseSCheckBox()"), Error,
-								   TEXT("Velmora: Warning: Can't find HAlign By Name: HAlign")}))
+	EXPECT_EQ(Log.Lines(),
+		FLines({Error, TEXT("Velmora: Warning: Parse HAlign Failed when ParseSCheckBox()"), Error,
+			TEXT("Velmora: Warning: Can't find HAlign By Name: HAlign")}))
 		<< "once by the builder and once by the decoration";
 }
 
@@ -146,7 +147,7 @@ TEST(CheckBoxBuilder, PaddingSurroundsTheContent)
 	const auto Build = [](const char* Padding)
 	{
 		const std::string Root = std::string(R"({ "SCheckBox": { "Padding": )") + Padding +
-								 R"(, "Content": { "SBox": { "WidthOverride": 30, "HeightOverride": 40 } } } })";
+			R"(, "Content": { "SBox": { "WidthOverride": 30, "HeightOverride": 40 } } } })";
 		return DesiredSizeOf(BuildTree(Root.c_str()));
 	};
 
@@ -166,8 +167,8 @@ TEST(CheckBoxBuilder, AlignmentMovesTheContent)
 {
 	const auto LeftOfContent = [](const char* HAlign)
 	{
-		const std::string Root = std::string(R"({ "SCheckBox": { "HAlign": ")") + HAlign +
-								 R"(", "Content": { "SBox": { "WidthOverride": 30 } } } })";
+		const std::string Root =
+			std::string(R"({ "SCheckBox": { "HAlign": ")") + HAlign + R"(", "Content": { "SBox": { "WidthOverride": 30 } } } })";
 		const TSharedRef<SWidget> CheckBox = BuildTree(Root.c_str());
 		const TSharedRef<SWidget> Row = ChildOf(CheckBox);
 		CheckBox->SlatePrepass(1.0f);

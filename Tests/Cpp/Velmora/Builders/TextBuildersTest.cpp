@@ -81,8 +81,7 @@ TEST(TextBuilders, UnknownMarshallerIsAnErrorAndThePlainWidget)
 	const TSharedRef<SWidget> Area = BuildTree(R"({ "SMultiLineEditableTextBox": { "Marshaller": "Html", "Text": "<b>" } })");
 
 	EXPECT_EQ(As<SMultiLineEditableTextBox>(Area)->GetText().ToString(), FString(TEXT("<b>")));
-	EXPECT_EQ(
-		Log.Lines(),
+	EXPECT_EQ(Log.Lines(),
 		FLines({TEXT("Velmora: Error: Marshaller Name: Html is not support yet.  Supperted Marshalle: \"VelmoraRichText\"")}));
 }
 
