@@ -1,8 +1,10 @@
 """The editor with the regex tester, in a window of a display made for it."""
 
+import contextlib
 import json
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 
@@ -32,8 +34,8 @@ class Editor:
         self.make_project()
         script = f'{ROOT / "Tests/X11/probe.py"} {TOOL} {self.state_file}'
         self.process = desktop.start([self.executable, self.project, f"-ExecutePythonScript={script}"])
+        until(self.has_opened_the_tool, "the tool")
         self.window = desktop.window_named("Unreal Editor")
-        until(self.state_file.exists, "the tool")
 
     def make_project(self):
         subprocess.run([ROOT / "Scripts" / "new-project", self.project.parent], check=True, stdout=subprocess.DEVNULL)
@@ -42,6 +44,19 @@ class Editor:
         defaults = ROOT / "Resources" / "DefaultPythonSource" / "KX"
         tools = shutil.copytree(defaults, self.project.parent / "KX") / "Kestrix" / "Python"
         shutil.copytree(ROOT / "Samples" / "RegexTester", tools / "RegexTester")
+
+    def has_opened_the_tool(self):
+        assert self.process.poll() is None, f"the editor ended with status {self.process.returncode}"
+        return self.state_file.exists()
+
+    @contextlib.contextmanager
+    def stopped(self):
+        """Holds the editor's process still, as if it were busy."""
+        self.process.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            self.process.send_signal(signal.SIGCONT)
 
     def has_ended_after(self, action):
         """Does something and gives the editor a second to end by it."""

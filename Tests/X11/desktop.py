@@ -10,7 +10,7 @@ import time
 SIZE = (1500, 1000)
 
 #: Seconds after which what was waited for will not come any more.
-PATIENCE = 15.0
+PATIENCE = 30.0
 
 
 def until(condition, what):

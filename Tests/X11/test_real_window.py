@@ -56,6 +56,16 @@ def test_keyboard_alone_is_enough(editor, desktop):
     editor.until_text("Sample", "daa")
 
 
+def test_keys_that_came_while_the_editor_was_busy_keep_their_modifiers(editor, desktop):
+    editor.click("#Sample")
+    desktop.type("ada")
+    editor.until_text("Sample", "ada")
+    with editor.stopped():
+        desktop.press("shift+Left", "shift+Left", "ctrl+x", "Home", "ctrl+v")
+        desktop.type("Up")
+    editor.until_text("Sample", "daUpa")
+
+
 def test_keyboard_of_another_layout_types_its_letters(editor, desktop):
     desktop.choose_layout("ru")
     editor.click("#Sample")
