@@ -98,9 +98,14 @@ class Editor:
 
     def until_pixels(self, expected):
         """Waits until the screen shows just these pixels in the window, with the mouse where nothing lights up."""
-        place = (*self.desktop.origin(self.window), *self.desktop.size(self.window))
-        self.desktop.ask("mousemove", 0, 0)
-        until(lambda: self.desktop.pixels(*place) == expected, "the same pixels")
+
+        def shows_them():
+            # The window manager may be about to move the window.
+            place = (*self.desktop.origin(self.window), *self.desktop.size(self.window))
+            self.desktop.ask("mousemove", 0, 0)
+            return self.desktop.pixels(*place) == expected
+
+        until(shows_them, "the same pixels")
 
 
 @pytest.fixture
