@@ -33,7 +33,7 @@ public:
 	void Tick();
 
 	/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
-	static constexpr double LongestSleep = 1.0;
+	static constexpr double LongestSleep = 10.0;
 
 	/** Sleeps until there is something to do, but no longer than a time in seconds. Off-screen it returns at once. */
 	void WaitForWork(double Longest = LongestSleep);
