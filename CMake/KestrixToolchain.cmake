@@ -15,7 +15,7 @@ add_compile_options(
 	-fcolor-diagnostics -Xclang -fno-pch-timestamp)
 add_link_options(-pthread -fuse-ld=lld -Wl,--as-needed -Wl,-z,now)
 
-option(KESTRIX_WARNINGS_AS_ERRORS "Stop at the first warning, as continuous integration does" OFF)
+option(KESTRIX_WARNINGS_AS_ERRORS "Stop at a warning, as all presets do" OFF)
 if(KESTRIX_WARNINGS_AS_ERRORS)
 	add_compile_options(-Werror)
 endif()
