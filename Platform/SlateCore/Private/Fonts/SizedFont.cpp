@@ -4,6 +4,8 @@
 #include "Fonts/FontFace.h"
 #include "Fonts/FontSystem.h"
 
+DEFINE_LOG_CATEGORY_STATIC(LogSlateFonts, Log, All);
+
 namespace
 {
 
@@ -30,7 +32,12 @@ FString GetFaceName(const FSlateFontInfo& FontInfo)
 double GetPixelSize(const FSlateFontInfo& FontInfo, float Scale)
 {
 	const double Size = double(FontInfo.GetPixelSize()) * double(Scale);
-	return Size >= 1.0 ? FMath::Min(Size, MaxPixelSize) : 1.0;
+	const double Bounded = Size >= 1.0 ? FMath::Min(Size, MaxPixelSize) : 1.0;
+	if (FontInfo.Size <= 0 || Size > MaxPixelSize)
+	{
+		UE_LOG(LogSlateFonts, Warning, TEXT("A font of size %d cannot be drawn; letters of %.0f pixels are used."), FontInfo.Size, Bounded);
+	}
+	return Bounded;
 }
 
 }

@@ -2,6 +2,7 @@
 #include "Fonts/FontCache.h"
 #include "Fonts/FontMeasure.h"
 #include "Fonts/SlateFontInfo.h"
+#include "LogCapture.h"
 #include "Misc/Paths.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +94,22 @@ TEST_F(FontMeasure, AFaceMayBeAFileAndAMissingFileIsReplaced)
 	const FSlateFontInfo Mono(Font, 20, TEXT("File"));
 	EXPECT_EQ(Width(TEXT("iiii"), Mono), Width(TEXT("WWWW"), Mono));
 	EXPECT_GT(Width(TEXT("iiii"), FSlateFontInfo(Font, 20, TEXT("Missing"))), 0.0);
+}
+
+TEST_F(FontMeasure, ASizeOutOfReasonDrawsOneWarning)
+{
+	const FLogCapture Log(TEXT("LogSlateFonts"));
+	const FSlateFontInfo Huge = MakeFont(123456);
+	const FSlateFontInfo Nothing = MakeFont(-3);
+
+	Measure->Measure(TEXT("a"), Huge);
+	Measure->Measure(TEXT("b"), Huge);
+	Measure->Measure(TEXT("a"), Nothing);
+
+	EXPECT_EQ(Log.Warnings(), TArray<FString>({
+		TEXT("A font of size 123456 cannot be drawn; letters of 1024 pixels are used."),
+		TEXT("A font of size -3 cannot be drawn; letters of 1 pixels are used."),
+	}));
 }
 
 // Engine fact: a size of zero or less must not crash.
