@@ -45,3 +45,21 @@ def test_without_python_the_editor_runs_and_a_script_fails(shell):
     run = shell.start("Trial/Trial.uproject", "-DisablePython", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
     assert run.returncode == 1
     assert "LogPython: 42" not in shell.log_text()
+
+
+def test_trouble_is_told_where_the_editor_was_started(shell):
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('no_such_name')}")
+    assert f"The log is {shell.log}" in run.stderr
+    assert "NameError" in run.stderr
+
+
+def test_off_screen_without_a_script_gives_status_2_and_says_why(shell):
+    run = shell.start("Trial/Trial.uproject")
+    assert run.returncode == 2
+    assert "-ExecutePythonScript" in run.stderr
+
+
+def test_the_console_can_end_the_editor(shell):
+    script = shell.script("import unreal; unreal.EditorPythonScripting.set_keep_python_script_alive(True)")
+    run = shell.start("Trial/Trial.uproject", "-ExecCmds=quit", f"-ExecutePythonScript={script}")
+    assert run.returncode == 0

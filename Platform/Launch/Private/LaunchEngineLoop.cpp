@@ -18,6 +18,7 @@
 #include "Misc/OutputDeviceStdOutput.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "TroubleReport.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
@@ -48,6 +49,11 @@ FString MakeFullFromWorkingDirectory(const FString& Path)
 
 void RunConsoleInput(const FString& Input)
 {
+	if (Input == TEXT("quit") || Input == TEXT("exit") || Input == TEXT("QUIT_EDITOR"))
+	{
+		RequestEngineExit(TEXT("The console said so."));
+		return;
+	}
 	if (!IConsoleManager::Get().ProcessUserConsoleInput(*Input, *GLog, nullptr) &&
 		!FSelfRegisteringExec::StaticExec(nullptr, *Input, *GLog))
 	{
@@ -93,7 +99,12 @@ void FEngineLoop::OpenLog()
 		StdOut = MakeUnique<FOutputDeviceStdOutput>();
 		GLog->SerializeBacklog(StdOut.Get());
 		GLog->AddOutputDevice(StdOut.Get());
+		return;
 	}
+	std::fprintf(stderr, "The log is %s\n", TCHAR_TO_UTF8(*LogPath));
+	TroubleReport = MakeUnique<FTroubleReport>();
+	GLog->SerializeBacklog(TroubleReport.Get());
+	GLog->AddOutputDevice(TroubleReport.Get());
 }
 
 void FEngineLoop::Init()
@@ -117,6 +128,13 @@ void FEngineLoop::Init()
 	}
 	UE_LOG(LogLaunch, Log, TEXT("Project %s is open."), *FPaths::GetProjectFilePath());
 	FCoreDelegates::OnPostEngineInit.Broadcast();
+}
+
+bool FEngineLoop::HasUser() const
+{
+	FString Script;
+	return FSlateApplication::Get().GetPlatformApplication()->HasVisibleWindows() ||
+		FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false);
 }
 
 void FEngineLoop::OpenMainWindow()

@@ -4,6 +4,7 @@
 
 class FOutputDeviceFile;
 class FOutputDeviceStdOutput;
+class FTroubleReport;
 class SWindow;
 
 /**
@@ -22,12 +23,17 @@ public:
 	 *
 	 * @param CommandLine The project file, then switches: -abslog=FILE, -stdout, -RenderOffScreen, -unattended,
 	 * -ExecutePythonScript="file args", -ExecCmds="a;b", -DisablePython.
+	 * Without -stdout, warnings and errors go to the standard error, behind the name of the log file.
+	 *
 	 * @return False, with a message on the standard error, when there is no such project.
 	 */
 	bool PreInit(const TCHAR* CommandLine);
 
 	/** Loads the modules and the plugins and opens the main window. */
 	void Init();
+
+	/** False for a start without a display and without a script: nobody could use the editor, and nobody would end it. */
+	bool HasUser() const;
 
 	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
 	void Tick();
@@ -53,6 +59,7 @@ private:
 
 	TUniquePtr<FOutputDeviceFile> LogFile;
 	TUniquePtr<FOutputDeviceStdOutput> StdOut;
+	TUniquePtr<FTroubleReport> TroubleReport;
 	TSharedPtr<SWindow> MainWindow;
 	int32 ExitStatus = 0;
 	bool bCommandsDone = false;

@@ -2,6 +2,7 @@
 #include "LaunchEngineLoop.h"
 #include "Misc/CommandLine.h"
 
+#include <cstdio>
 #include <sys/resource.h>
 
 namespace
@@ -29,6 +30,12 @@ int main(int ArgumentCount, char** Arguments)
 		return 2;
 	}
 	GEngineLoop.Init();
+	if (!GEngineLoop.HasUser())
+	{
+		GEngineLoop.Exit();
+		std::fputs("Off-screen nobody can use the editor or end it. Name a script with -ExecutePythonScript=FILE.\n", stderr);
+		return 2;
+	}
 	while (!IsEngineExitRequested())
 	{
 		GEngineLoop.Tick();

@@ -50,7 +50,10 @@ void SButton::SetButtonStyle(const FButtonStyle* InButtonStyle)
 
 void SButton::UpdatePadding()
 {
-	SetPadding(ContentPadding + (bIsPressed ? Style->PressedPadding : Style->NormalPadding));
+	// A negative padding eats into that of the style, but the content stays within the button.
+	const FMargin Sum = ContentPadding + (bIsPressed ? Style->PressedPadding : Style->NormalPadding);
+	SetPadding(FMargin(
+		FMath::Max(Sum.Left, 0.0f), FMath::Max(Sum.Top, 0.0f), FMath::Max(Sum.Right, 0.0f), FMath::Max(Sum.Bottom, 0.0f)));
 }
 
 const FSlateBrush* SButton::GetBorder() const

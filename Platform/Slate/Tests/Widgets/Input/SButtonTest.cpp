@@ -140,6 +140,15 @@ TEST(SButton, ContentPaddingAddsToThePaddingOfTheStyleAndMayBeNegative)
 	EXPECT_GT(Narrow->GetDesiredSize().X, Narrow->GetContent()->GetDesiredSize().X);
 }
 
+TEST(SButton, TheContentStaysWithinTheButtonHoweverNegativeThePadding)
+{
+	TSharedPtr<SButton> Button;
+	FSlateTestWindow Window(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)
+		[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Text"))).ContentPadding(FMargin(-100.0f))]);
+
+	EXPECT_EQ(Button->GetDesiredSize(), Button->GetContent()->GetDesiredSize());
+}
+
 TEST(SButton, AHandlerMayTakeTheButtonOutOfItsWindow)
 {
 	TSharedPtr<SVerticalBox> Box;
