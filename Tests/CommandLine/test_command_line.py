@@ -63,3 +63,11 @@ def test_the_console_can_end_the_editor(shell):
     script = shell.script("import unreal; unreal.EditorPythonScripting.set_keep_python_script_alive(True)")
     run = shell.start("Trial/Trial.uproject", "-ExecCmds=quit", f"-ExecutePythonScript={script}")
     assert run.returncode == 0
+
+
+def test_a_switch_that_means_nothing_is_named(shell):
+    script = shell.script("pass")
+    run = shell.start("Trial/Trial.uproject", "-unatended", "-nosplash", f"-ExecutePythonScript={script} -v --quiet")
+    assert run.returncode == 0
+    assert "Unknown switch: -unatended" in run.stderr
+    assert run.stderr.count("Unknown switch") == 1

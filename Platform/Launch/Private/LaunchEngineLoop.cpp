@@ -1,5 +1,6 @@
 #include "LaunchEngineLoop.h"
 
+#include "CommandLineSwitches.h"
 #include "Containers/Ticker.h"
 #include "EditorPythonScriptingLibrary.h"
 #include "Framework/Application/SlateApplication.h"
@@ -80,6 +81,10 @@ bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 	}
 	FPaths::SetProjectFilePath(ProjectFile);
 	OpenLog();
+	for (const FString& Switch : CommandLineSwitches::FindUnknown(CommandLine))
+	{
+		UE_LOG(LogLaunch, Warning, TEXT("Unknown switch: %s"), *Switch);
+	}
 	FConfigCacheIni::InitializeConfigSystem();
 	return true;
 }
