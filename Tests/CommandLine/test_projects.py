@@ -1,4 +1,4 @@
-"""What makes projects: `./kestrix new` and `./kestrix run`."""
+"""The command of the project: what it says, and what makes projects, `./kestrix new` and `./kestrix run`."""
 
 import os
 import pathlib
@@ -15,6 +15,14 @@ def new_project(folder):
 
 def files_below(folder):
     return sorted(str(file.relative_to(folder)) for file in folder.rglob("*") if not file.is_dir() or file.is_symlink())
+
+
+def test_an_unknown_command_is_named_before_the_usage():
+    run = subprocess.run([ROOT / "kestrix", "nwe"], capture_output=True, text=True, check=False)
+    assert run.returncode == 2
+    assert run.stderr.startswith('kestrix: unknown command "nwe"\n')
+    assert "Usage: ./kestrix COMMAND" in run.stderr
+    assert run.stdout == ""
 
 
 def test_a_new_project_has_the_plugin_and_its_settings(tmp_path):

@@ -195,6 +195,23 @@ def test_characters_beyond_the_basic_plane_arrive_whole(tool, runs):
     assert runs[-1] == "a\u00e9\u4e16\U0001f600"
 
 
+def test_quotes_within_a_text_arrive_and_one_at_its_end_breaks_the_literal(tool, runs, log):
+    t = tool(field("Name", OnTextCommitted="recorder.run(%)"))
+    t.click("#Name")
+    Driver.type_text("it's")
+    Driver.press_key("Enter")
+    assert runs == ["it's", "it's"]
+    runs.clear()
+    t.data.set_text("Name", "")
+    t.click("#Name")
+    Driver.type_text("its'")
+    Driver.press_key("Enter")
+    assert runs == []
+    assert any("SyntaxError" in line for line in log.errors("LogPython"))
+    t.data.set_text("Name", "still here")
+    assert t.data.get_text("Name") == "still here"
+
+
 def test_tick_runs_once_a_frame_and_ends_with_the_tool(tool, runs, log):
     t = tool(label("tick", OnTick="recorder.run('tick')"))
     runs.clear()
