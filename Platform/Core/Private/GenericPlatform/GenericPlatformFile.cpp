@@ -125,11 +125,12 @@ bool ReadAll(int Handle, SinkType Sink)
 	}
 }
 
+/** A file open for reading. Opening never waits, not for the writer of a pipe either. */
 class FReadHandle
 {
 public:
 	explicit FReadHandle(const TCHAR* Filename)
-		: Handle(open(ToNativePath(Filename).c_str(), O_RDONLY | O_CLOEXEC))
+		: Handle(open(ToNativePath(Filename).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
 	{
 	}
 
@@ -346,9 +347,10 @@ bool IPlatformFile::CopyDirectoryTree(const TCHAR* DestinationDirectory, const T
 
 bool IPlatformFile::ReadFile(TArray<uint8>& Result, const TCHAR* Filename)
 {
+	// Only a regular file is known to end; a device may give bytes for ever.
 	const FReadHandle Source(Filename);
 	struct stat Status;
-	if (Source == -1 || fstat(Source, &Status) != 0 || S_ISDIR(Status.st_mode) || Status.st_size > MAX_int32)
+	if (Source == -1 || fstat(Source, &Status) != 0 || !S_ISREG(Status.st_mode) || Status.st_size > MAX_int32)
 	{
 		return false;
 	}

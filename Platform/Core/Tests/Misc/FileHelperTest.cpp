@@ -92,6 +92,15 @@ TEST_F(FileHelper, MissingFileLeavesTheOutputAlone)
 	EXPECT_EQ(Text, FString(TEXT("kept")));
 }
 
+TEST_F(FileHelper, DevicesAndPipesAreRefusedAtOnce)
+{
+	FString Text(TEXT("kept"));
+	EXPECT_FALSE(FFileHelper::LoadFileToString(Text, TEXT("/dev/zero")));
+	ASSERT_EQ(mkfifo(TCHAR_TO_UTF8(*File), 0600), 0);
+	EXPECT_FALSE(FFileHelper::LoadFileToString(Text, *File));
+	EXPECT_EQ(Text, FString(TEXT("kept")));
+}
+
 TEST_F(FileHelper, AutomaticEncodingIsBytesForAsciiAndUtf16Otherwise)
 {
 	EXPECT_EQ(Save(TEXT("ab"), EEncoding::AutoDetect), TArray<uint8>({'a', 'b'}));
