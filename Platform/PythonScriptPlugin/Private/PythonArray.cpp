@@ -1,5 +1,4 @@
 #include "PythonContainers.h"
-#include "PythonErrors.h"
 #include "PythonInterpreter.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
@@ -34,12 +33,10 @@ bool PythonContainers::FillArray(const FPythonContainerType& Type, PyObject* Val
 		Type.Property->CopyCompleteValue(Memory, FPythonContainer::From(Value).Memory);
 		return true;
 	}
-	// Text is iterable too, but its letters are never meant.
-	const FPythonRef Iterator = PyUnicode_Check(Value) ? FPythonRef() : FPythonRef::Steal(PyObject_GetIter(Value));
+	const FPythonRef Iterator = Iterate(Type, Value);
 	if (!Iterator)
 	{
-		PyErr_Clear();
-		return PythonErrors::RaiseUnexpectedType(TEXT("iterable of ") + Type.Element->TypeName(), Value);
+		return false;
 	}
 	FScriptArrayHelper Helper = HelperOf(Type, Memory);
 	Helper.EmptyValues();
@@ -53,19 +50,6 @@ bool PythonContainers::FillArray(const FPythonContainerType& Type, PyObject* Val
 	return !PyErr_Occurred();
 }
 
-/** Replaces all elements; if one does not fit, the array stays as it was. */
-static bool Refill(PyObject* Self, PyObject* Values)
-{
-	const FPythonContainer& Array = FPythonContainer::From(Self);
-	const FScopedPropertyValue Converted(Array.Type->Property);
-	if (!PythonContainers::FillArray(*Array.Type, Values, Converted.Get()))
-	{
-		return false;
-	}
-	Array.Type->Property->CopyCompleteValue(Array.Memory, Converted.Get());
-	return true;
-}
-
 static PyObject* NewArray(PyTypeObject* Type, PyObject* Arguments, PyObject* Keywords)
 {
 	static const char* const Names[] = {"type", nullptr};
@@ -76,18 +60,6 @@ static PyObject* NewArray(PyTypeObject* Type, PyObject* Arguments, PyObject* Key
 	}
 	const TSharedPtr<const FPythonContainerType> ContainerType = FPythonContainerType::MakeArray(ElementType);
 	return ContainerType ? PythonContainers::New(Type, ContainerType.ToSharedRef()).Release() : nullptr;
-}
-
-static PyObject* CastToArray(PyObject* Type, PyObject* Arguments)
-{
-	PyObject* ElementType = nullptr;
-	PyObject* Values = nullptr;
-	if (!PyArg_ParseTuple(Arguments, "OO:cast", &ElementType, &Values))
-	{
-		return nullptr;
-	}
-	FPythonRef Result = FPythonRef::Steal(PyObject_CallOneArg(Type, ElementType));
-	return Result && Refill(Result.Get(), Values) ? Result.Release() : nullptr;
 }
 
 static Py_ssize_t ArrayLength(PyObject* Self)
@@ -146,7 +118,7 @@ static PyObject* CallAsList(PyObject* Self, const ANSICHAR* Method, PyObject* Ar
 	const FPythonRef List = PythonContainers::As(&PyList_Type, Self);
 	const FPythonRef Callable = List ? FPythonRef::Steal(PyObject_GetAttrString(List.Get(), Method)) : FPythonRef();
 	FPythonRef Result = Callable ? FPythonRef::Steal(PyObject_Call(Callable.Get(), Arguments, Keywords)) : FPythonRef();
-	return Result && (!bWriteBack || Refill(Self, List.Get())) ? Result.Release() : nullptr;
+	return Result && (!bWriteBack || PythonContainers::Refill(Self, List.Get())) ? Result.Release() : nullptr;
 }
 
 static PyObject* ArraySubscript(PyObject* Self, PyObject* Key)
@@ -164,7 +136,7 @@ static PyObject* ArraySubscript(PyObject* Self, PyObject* Key)
 	}
 	FPythonRef Result = PythonContainers::New(PythonContainers::TypeFor(FPythonContainer::From(Self).Type->Property),
 											  FPythonContainer::From(Self).Type);
-	return Result && Refill(Result.Get(), Slice.Get()) ? Result.Release() : nullptr;
+	return Result && PythonContainers::Refill(Result.Get(), Slice.Get()) ? Result.Release() : nullptr;
 }
 
 static int SetArraySubscript(PyObject* Self, PyObject* Key, PyObject* Value)
@@ -261,7 +233,7 @@ static PyMethodDef MethodOfList(const ANSICHAR* Doc)
 }
 
 static PyMethodDef GArrayMethods[] = {
-	{"cast", CastToArray, METH_VARARGS | METH_CLASS,
+	{"cast", PythonContainers::Cast, METH_VARARGS | METH_CLASS,
 	 "cast($type, type, obj, /)\n--\n\nMakes an Array of a type of the items of an iterable."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the array."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the array."},

@@ -6,15 +6,12 @@
 class FPythonContainerConverter final : public FPythonConverter
 {
 public:
-	using FFill = bool (*)(const FPythonContainerType& Type, PyObject* Value, void* Memory);
-
-	FPythonContainerConverter(TSharedRef<const FPythonContainerType> InType, FFill InFill)
+	explicit FPythonContainerConverter(TSharedRef<const FPythonContainerType> InType)
 		: Type(InType)
-		, Fill(InFill)
 	{
 	}
 
-	bool FromPython(PyObject* Value, void* Address) const override { return Fill(*Type, Value, Address); }
+	bool FromPython(PyObject* Value, void* Address) const override { return PythonContainers::Fill(*Type, Value, Address); }
 	FPythonRef ToPython(const void* Address) const override { return PythonContainers::ToPython(Type, Address); }
 
 	FString TypeName() const override { return Describe(TEXT("Array"), TEXT("Set"), TEXT("Map"), &FPythonConverter::TypeName); }
@@ -36,20 +33,10 @@ private:
 	}
 
 	const TSharedRef<const FPythonContainerType> Type;
-	const FFill Fill;
 };
-
-static FPythonContainerConverter::FFill FillOf(const FProperty* Property)
-{
-	if (Property->IsA<FArrayProperty>())
-	{
-		return &PythonContainers::FillArray;
-	}
-	return Property->IsA<FSetProperty>() ? &PythonContainers::FillSet : &PythonContainers::FillMap;
-}
 
 TUniquePtr<FPythonConverter> PythonConverters::MakeForContainer(const FProperty* Property)
 {
 	const TSharedPtr<const FPythonContainerType> Type = FPythonContainerType::Of(Property);
-	return Type ? MakeUnique<FPythonContainerConverter>(Type.ToSharedRef(), FillOf(Property)) : TUniquePtr<FPythonConverter>();
+	return Type ? MakeUnique<FPythonContainerConverter>(Type.ToSharedRef()) : TUniquePtr<FPythonConverter>();
 }

@@ -57,6 +57,51 @@ FPythonRef PythonContainers::ToPython(const TSharedRef<const FPythonContainerTyp
 	return Result;
 }
 
+bool PythonContainers::Fill(const FPythonContainerType& Type, PyObject* Value, void* Memory)
+{
+	if (Type.Property->IsA<FArrayProperty>())
+	{
+		return FillArray(Type, Value, Memory);
+	}
+	return Type.Property->IsA<FSetProperty>() ? FillSet(Type, Value, Memory) : FillMap(Type, Value, Memory);
+}
+
+bool PythonContainers::Refill(PyObject* Self, PyObject* Values)
+{
+	const FPythonContainer& Container = FPythonContainer::From(Self);
+	const FScopedPropertyValue Converted(Container.Type->Property);
+	if (!Fill(*Container.Type, Values, Converted.Get()))
+	{
+		return false;
+	}
+	Container.Type->Property->CopyCompleteValue(Container.Memory, Converted.Get());
+	return true;
+}
+
+FPythonRef PythonContainers::Iterate(const FPythonContainerType& Type, PyObject* Value)
+{
+	// Text is iterable too, but its letters are never meant.
+	FPythonRef Iterator = PyUnicode_Check(Value) ? FPythonRef() : FPythonRef::Steal(PyObject_GetIter(Value));
+	if (!Iterator)
+	{
+		PyErr_Clear();
+		PythonErrors::RaiseUnexpectedType(TEXT("iterable of ") + Type.Element->TypeName(), Value);
+	}
+	return Iterator;
+}
+
+PyObject* PythonContainers::Cast(PyObject* PythonType, PyObject* Arguments)
+{
+	PyObject* ElementType = nullptr;
+	PyObject* Values = nullptr;
+	if (!PyArg_ParseTuple(Arguments, "OO:cast", &ElementType, &Values))
+	{
+		return nullptr;
+	}
+	FPythonRef Result = FPythonRef::Steal(PyObject_CallOneArg(PythonType, ElementType));
+	return Result && Refill(Result.Get(), Values) ? Result.Release() : nullptr;
+}
+
 PyObject* PythonContainers::Copy(PyObject* Self, PyObject*)
 {
 	const FPythonContainer& Container = FPythonContainer::From(Self);

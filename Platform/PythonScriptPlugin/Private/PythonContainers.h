@@ -16,9 +16,21 @@ FPythonRef ToPython(const TSharedRef<const FPythonContainerType>& Type, const vo
  *
  * @return False with a TypeError if the value is none or an element does not fit.
  */
+bool Fill(const FPythonContainerType& Type, PyObject* Value, void* Memory);
+
+// What Fill does for each type, made by its own source.
 bool FillArray(const FPythonContainerType& Type, PyObject* Value, void* Memory);
 bool FillSet(const FPythonContainerType& Type, PyObject* Value, void* Memory);
 bool FillMap(const FPythonContainerType& Type, PyObject* Value, void* Memory);
+
+/** Replaces all elements of a container; if one does not fit, the container stays as it was. */
+bool Refill(PyObject* Self, PyObject* Values);
+
+/** An iterator over the new elements of an array or set; null, with a TypeError, if the value is not iterable or is text. */
+FPythonRef Iterate(const FPythonContainerType& Type, PyObject* Value);
+
+/** Class method cast(type, values) of arrays and sets: a new container with the values. */
+PyObject* Cast(PyObject* PythonType, PyObject* Arguments);
 
 // The three types, each made by its own source.
 FPythonRef MakeArrayType();

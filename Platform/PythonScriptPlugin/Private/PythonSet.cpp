@@ -1,5 +1,4 @@
 #include "PythonContainers.h"
-#include "PythonErrors.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
 
@@ -27,11 +26,10 @@ static bool AddTo(const FPythonContainerType& Type, FScriptSetHelper& Helper, Py
 
 bool PythonContainers::FillSet(const FPythonContainerType& Type, PyObject* Value, void* Memory)
 {
-	const FPythonRef Iterator = PyUnicode_Check(Value) ? FPythonRef() : FPythonRef::Steal(PyObject_GetIter(Value));
+	const FPythonRef Iterator = Iterate(Type, Value);
 	if (!Iterator)
 	{
-		PyErr_Clear();
-		return PythonErrors::RaiseUnexpectedType(TEXT("iterable of ") + Type.Element->TypeName(), Value);
+		return false;
 	}
 	FScriptSetHelper Helper = HelperOf(Type, Memory);
 	Helper.EmptyElements();
@@ -45,18 +43,6 @@ bool PythonContainers::FillSet(const FPythonContainerType& Type, PyObject* Value
 	return !PyErr_Occurred();
 }
 
-static bool Refill(PyObject* Self, PyObject* Values)
-{
-	const FPythonContainer& Set = FPythonContainer::From(Self);
-	const FScopedPropertyValue Converted(Set.Type->Property);
-	if (!PythonContainers::FillSet(*Set.Type, Values, Converted.Get()))
-	{
-		return false;
-	}
-	Set.Type->Property->CopyCompleteValue(Set.Memory, Converted.Get());
-	return true;
-}
-
 static PyObject* NewSet(PyTypeObject* Type, PyObject* Arguments, PyObject* Keywords)
 {
 	static const char* const Names[] = {"type", nullptr};
@@ -67,18 +53,6 @@ static PyObject* NewSet(PyTypeObject* Type, PyObject* Arguments, PyObject* Keywo
 	}
 	const TSharedPtr<const FPythonContainerType> ContainerType = FPythonContainerType::MakeSet(ElementType);
 	return ContainerType ? PythonContainers::New(Type, ContainerType.ToSharedRef()).Release() : nullptr;
-}
-
-static PyObject* CastToSet(PyObject* Type, PyObject* Arguments)
-{
-	PyObject* ElementType = nullptr;
-	PyObject* Values = nullptr;
-	if (!PyArg_ParseTuple(Arguments, "OO:cast", &ElementType, &Values))
-	{
-		return nullptr;
-	}
-	FPythonRef Result = FPythonRef::Steal(PyObject_CallOneArg(Type, ElementType));
-	return Result && Refill(Result.Get(), Values) ? Result.Release() : nullptr;
 }
 
 static Py_ssize_t SetLength(PyObject* Self)
@@ -178,7 +152,7 @@ static PyObject* UpdateSet(PyObject* Self, PyObject* Iterables)
 			return nullptr;
 		}
 	}
-	if (!Elements || !Refill(Self, Elements.Get()))
+	if (!Elements || !PythonContainers::Refill(Self, Elements.Get()))
 	{
 		return nullptr;
 	}
@@ -206,7 +180,7 @@ static PyObject* CombineAsSet(PyObject* Self, PyObject* Arguments)
 {
 	const FPythonRef Elements = CallAsSet(Self, Method, Arguments);
 	FPythonRef Result = Elements ? PythonContainers::New(Py_TYPE(Self), FPythonContainer::From(Self).Type) : FPythonRef();
-	return Result && Refill(Result.Get(), Elements.Get()) ? Result.Release() : nullptr;
+	return Result && PythonContainers::Refill(Result.Get(), Elements.Get()) ? Result.Release() : nullptr;
 }
 
 static const ANSICHAR* const GUnion = "union";
@@ -255,7 +229,7 @@ static PyObject* SetToRepr(PyObject* Self)
 }
 
 static PyMethodDef GSetMethods[] = {
-	{"cast", CastToSet, METH_VARARGS | METH_CLASS,
+	{"cast", PythonContainers::Cast, METH_VARARGS | METH_CLASS,
 	 "cast($type, type, obj, /)\n--\n\nMakes a Set of a type of the items of an iterable."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the set."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the set."},
