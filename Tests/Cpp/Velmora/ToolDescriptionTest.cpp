@@ -104,6 +104,18 @@ TEST(ToolDescription, FileThatIncludesItselfUnderAnotherCaseIsRefusedToo)
 	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile TOOL.json has already import in parents, recursively import")}));
 }
 
+TEST(ToolDescription, FileThatIncludesItselfBehindANullCharacterIsRefusedToo)
+{
+	const FTempProject Folder;
+	const TCHAR Text[] = TEXT("{}\n\"ExternalJson\": \"Tool.json\0/Part/c\"\n");
+	const FString Path = Folder.Write(TEXT("Tool.json"), FString(UE_ARRAY_COUNT(Text) - 1, Text));
+	const FLogCapture Log(TEXT("PythonKX"));
+
+	EXPECT_EQ(TextOf(Path), FString(TEXT("{}\n")));
+
+	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile Tool.json has already import in parents, recursively import")}));
+}
+
 TEST(ToolDescription, FileIncludedTwiceSideBySideStandsTwice)
 {
 	const FTempProject Folder;

@@ -23,7 +23,10 @@ namespace
 const FString CommentMark = TEXT("//");
 const FString InclusionMark = TEXT("\"ExternalJson\":");
 
-/** The text between the first two double quotes behind the inclusion mark, or what there is of it. */
+/**
+ * The text between the first two double quotes behind the inclusion mark, or what there is of it. A null character ends it: the file
+ * system reads no further, and two names of one file must not look different.
+ */
 FString ReadIncludedName(const FString& Line, int32 MarkPosition)
 {
 	const FString Rest = Line.Mid(MarkPosition + InclusionMark.Len());
@@ -34,7 +37,7 @@ FString ReadIncludedName(const FString& Line, int32 MarkPosition)
 	}
 	const FString Name = Rest.Mid(First + 1);
 	int32 Second = INDEX_NONE;
-	return Name.FindChar(TEXT('"'), Second) ? Name.Left(Second) : Name;
+	return FString(*(Name.FindChar(TEXT('"'), Second) ? Name.Left(Second) : Name));
 }
 
 /** Appends files to a text, with the files around the current one at hand. */
