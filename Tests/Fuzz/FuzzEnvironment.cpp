@@ -6,6 +6,7 @@
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/FileHelper.h"
+#include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 
 #include <cstdlib>
@@ -44,6 +45,8 @@ void StartFuzzEnvironment()
 	FCommandLine::Set(TEXT("-RenderOffScreen -unattended"));
 	FPaths::SetProjectFilePath(ProjectFolder / TEXT("Fuzz.uproject"));
 	FConfigCacheIni::InitializeConfigSystem();
+	// The lines of thousands of runs would fill the memory.
+	GLog->EnableBacklog(false);
 	FModuleManager::Get().RegisterStaticallyLinkedModule("PythonScriptPlugin", [] { return new FSilentPython; });
 	FModuleManager::Get().LoadModule("PythonScriptPlugin");
 	FSlateApplication::Create();
