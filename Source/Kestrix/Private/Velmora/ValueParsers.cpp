@@ -26,7 +26,7 @@ struct TSpelling
 };
 
 template <typename T, int32 Num>
-bool ParseSpelling(const FString& Text, const TSpelling<T> (&Spellings)[Num], const TCHAR* Message, T& Out)
+bool FindSpelling(const FString& Text, const TSpelling<T> (&Spellings)[Num], T& Out)
 {
 	for (const TSpelling<T>& Spelling : Spellings)
 	{
@@ -35,6 +35,16 @@ bool ParseSpelling(const FString& Text, const TSpelling<T> (&Spellings)[Num], co
 			Out = Spelling.Value;
 			return true;
 		}
+	}
+	return false;
+}
+
+template <typename T, int32 Num>
+bool ParseSpelling(const FString& Text, const TSpelling<T> (&Spellings)[Num], const TCHAR* Message, T& Out)
+{
+	if (FindSpelling(Text, Spellings, Out))
+	{
+		return true;
 	}
 	UE_LOG(Velmora, Error, TEXT("%s"), Message);
 	return false;
@@ -128,7 +138,10 @@ bool ParseOrientation(const TSharedPtr<FJsonValue>& Value, EOrientation& Out)
 						 Out);
 }
 
-bool ParseVisibility(const TSharedPtr<FJsonValue>& Value, EVisibility& Out)
+const TCHAR* const VisibilityHelp =
+	TEXT("ParseVisibility Type Error, need String:  Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible");
+
+bool FindVisibility(const FString& Name, EVisibility& Out)
 {
 	static const TSpelling<EVisibility> Spellings[] = {
 		{TEXT("Visible"), EVisibility::Visible},
@@ -137,10 +150,18 @@ bool ParseVisibility(const TSharedPtr<FJsonValue>& Value, EVisibility& Out)
 		{TEXT("HitTestInvisible"), EVisibility::HitTestInvisible},
 		{TEXT("SelfHitTestInvisible"), EVisibility::SelfHitTestInvisible},
 	};
+	return FindSpelling(Name, Spellings, Out);
+}
+
+bool ParseVisibility(const TSharedPtr<FJsonValue>& Value, EVisibility& Out)
+{
 	Out = EVisibility::Visible;
-	return ParseSpelling(
-		Value->AsString(), Spellings,
-		TEXT("ParseVisibility Type Error, need String:  Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible"), Out);
+	if (FindVisibility(Value->AsString(), Out))
+	{
+		return true;
+	}
+	UE_LOG(Velmora, Error, TEXT("%s"), VisibilityHelp);
+	return false;
 }
 
 bool ParseBarFillType(const TSharedPtr<FJsonValue>& Value, EProgressBarFillType::Type& Out)

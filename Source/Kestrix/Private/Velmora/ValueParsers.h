@@ -27,7 +27,13 @@ bool ParseVAlign(const TSharedPtr<FJsonValue>& Value, EVerticalAlignment& Out);
 /** "Orient_Horizontal" or "Horizontal", or a text with "Orient_Vertical" or "Vertical" in it. Orient_Horizontal on failure. */
 bool ParseOrientation(const TSharedPtr<FJsonValue>& Value, EOrientation& Out);
 
-/** "Visible", "Collapsed", "Hidden", "HitTestInvisible" or "SelfHitTestInvisible". Visible on failure. */
+/** "Visible", "Collapsed", "Hidden", "HitTestInvisible" or "SelfHitTestInvisible", in any case. Untouched, without a message, on failure. */
+bool FindVisibility(const FString& Name, EVisibility& Out);
+
+/** What to tell whoever gave another name. */
+extern const TCHAR* const VisibilityHelp;
+
+/** As FindVisibility, with the message. Visible on failure. */
 bool ParseVisibility(const TSharedPtr<FJsonValue>& Value, EVisibility& Out);
 
 /** "LeftToRight", "RightToLeft", "FillFromCenter", "TopToBottom" or "BottomToTop". Untouched on failure. */

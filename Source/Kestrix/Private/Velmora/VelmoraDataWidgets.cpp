@@ -1,8 +1,8 @@
 #include "Velmora/VelmoraData.h"
 
 #include "KestrixLog.h"
-#include "Layout/Visibility.h"
 #include "Velmora/DecorationTable.h"
+#include "Velmora/ValueParsers.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
@@ -90,32 +90,6 @@ const FTextWidget* FindTextWidget(const SWidget& Widget)
 		}
 	}
 	return nullptr;
-}
-
-struct FNamedVisibility
-{
-	const TCHAR* Name;
-	EVisibility Visibility;
-};
-
-bool FindVisibility(const FString& Name, EVisibility& Out)
-{
-	const FNamedVisibility Visibilities[] = {
-		{TEXT("Visible"), EVisibility::Visible},
-		{TEXT("Collapsed"), EVisibility::Collapsed},
-		{TEXT("Hidden"), EVisibility::Hidden},
-		{TEXT("HitTestInvisible"), EVisibility::HitTestInvisible},
-		{TEXT("SelfHitTestInvisible"), EVisibility::SelfHitTestInvisible},
-	};
-	for (const FNamedVisibility& Entry : Visibilities)
-	{
-		if (Name.Equals(Entry.Name, ESearchCase::IgnoreCase))
-		{
-			Out = Entry.Visibility;
-			return true;
-		}
-	}
-	return false;
 }
 }
 
@@ -218,8 +192,7 @@ bool UVelmoraData::SetVisibility(FName AkaName, FString VisibilityStr)
 	EVisibility Visibility;
 	if (!FindVisibility(VisibilityStr, Visibility))
 	{
-		UE_LOG(PythonKX, Error,
-			TEXT("ParseVisibility Type Error, need String:  Visible/Collapsed/Hidden/HitTestInvisible/SelfHitTestInvisible"));
+		UE_LOG(PythonKX, Error, TEXT("%s"), VisibilityHelp);
 		return false;
 	}
 	Widget->SetVisibility(Visibility);
