@@ -61,7 +61,8 @@ def test_read_only_can_be_switched(tool):
     t = tool(vertical(field("F"), long_field("L")))
     for aka in ("F", "L"):
         t.data.set_text_read_only(aka, True)
-        t.type_into(f"#{aka}", "x")
+        with pytest.raises(RuntimeError, match="was not taken"):
+            t.type_into(f"#{aka}", "x")
         assert t.data.get_text(aka) == ""
         t.data.set_text_read_only(aka, False)
         t.type_into(f"#{aka}", "x")

@@ -184,9 +184,12 @@ void UEditorDriver::TypeText(const FString& Text)
 			InputPlayer::KeyDown(Enter, false);
 			InputPlayer::KeyUp(Enter);
 		}
-		else
+		else if (!InputPlayer::TypeCharacter(Character))
 		{
-			InputPlayer::TypeCharacter(Character);
+			const TSharedPtr<SWidget> Focused = FSlateApplication::Get().GetKeyboardFocusedWidget();
+			Raise(FString::Printf(TEXT("'%c' was not taken: %s has the keyboard focus"), Character,
+				Focused.IsValid() ? *WidgetFinder::Describe(*Focused) : TEXT("nothing")));
+			return;
 		}
 	}
 }

@@ -95,10 +95,11 @@ void InputPlayer::Wheel(float Delta)
 	Run(0.0);
 }
 
-void InputPlayer::TypeCharacter(TCHAR Character)
+bool InputPlayer::TypeCharacter(TCHAR Character)
 {
-	App().OnKeyChar(Character, false);
+	const bool bTaken = App().OnKeyChar(Character, false);
 	Run(0.0);
+	return bTaken;
 }
 
 bool InputPlayer::FChord::Parse(const FString& Text, FChord& OutChord, FString& OutUnknown)

@@ -16,7 +16,9 @@ void MoveMouse(const FVector2D& DesktopPlace);
 void Press(EMouseButtons::Type Button, bool bDoubleClick = false);
 void Release(EMouseButtons::Type Button);
 void Wheel(float Delta);
-void TypeCharacter(TCHAR Character);
+
+/** @return Whether a widget took the character. */
+bool TypeCharacter(TCHAR Character);
 
 /** Keys that are held while another is pressed. */
 struct FChord

@@ -76,7 +76,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")
 	static void Scroll(const FString& Tab, const FString& Type, const FString& Text = "", int32 Index = 0, float Delta = -1.0f);
 
-	/** Types characters into whatever has the keyboard focus. Line breaks are typed with Enter. */
+	/**
+	 * Types characters into what has the keyboard focus, a line break as Enter. Raises at a character that is not taken: no text
+	 * field has the focus, or one that is read-only.
+	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")
 	static void TypeText(const FString& Text);
 
