@@ -1,5 +1,9 @@
 """The editor as a shell starts it: its status, its log and what it says."""
 
+import signal
+
+import pytest
+
 
 def test_a_script_that_ends_well_gives_status_0(shell):
     run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
@@ -71,3 +75,24 @@ def test_a_switch_that_means_nothing_is_named(shell):
     assert run.returncode == 0
     assert "Unknown switch: -unatended" in run.stderr
     assert run.stderr.count("Unknown switch") == 1
+
+
+@pytest.mark.parametrize("number", [signal.SIGINT, signal.SIGTERM, signal.SIGHUP])
+def test_a_signal_ends_the_editor_in_order(shell, number):
+    script = shell.script(
+        "import os, unreal\n"
+        "unreal.EditorPythonScripting.set_keep_python_script_alive(True)\n"
+        "unreal.VelmoraData.launch_velmora_tool('VelmoraGallery/VelmoraGallery.json')\n"
+        f"os.kill(os.getpid(), {number:d})\n"
+    )
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}")
+    assert run.returncode == 128 + number
+    log = shell.log_text()
+    assert f"LogLaunch: The editor is asked to end by signal {number:d}." in log
+    assert "LogPython: The gallery was closed" in log
+    assert "LogLaunch: The editor has ended." in log
+
+
+def test_a_second_signal_ends_a_script_that_never_comes_back(shell):
+    script = shell.script(f"import os\nwhile True: os.kill(os.getpid(), {signal.SIGTERM:d})")
+    assert shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}").returncode == -signal.SIGTERM

@@ -16,6 +16,7 @@ TAB = "Regex Tester"
 class Probe:
     def __init__(self):
         self.written = None
+        self.handle = unreal.register_slate_post_tick_callback(self)
 
     def __call__(self, delta_seconds):
         self.do_what_is_asked()
@@ -40,10 +41,10 @@ class Probe:
             with open(task, encoding="utf-8") as file:
                 text = file.read()
             os.remove(task)
-            exec(text, {"unreal": unreal})
+            exec(text, {"unreal": unreal, "stop_watching": lambda: unreal.unregister_slate_post_tick_callback(self.handle)})
 
 
 unreal.EditorPythonScripting.set_keep_python_script_alive(True)
 unreal.VelmoraData.request_close("VelmoraGallery/VelmoraGallery.json")
 unreal.VelmoraData.launch_velmora_tool(TOOL)
-unreal.register_slate_post_tick_callback(Probe())
+Probe()

@@ -1,5 +1,6 @@
 """The regex tester in a real window: mouse, keyboard, resizing, closing, pixels."""
 
+import signal
 import subprocess
 
 import pictures
@@ -122,3 +123,11 @@ def test_close_button_ends_the_editor_with_status_0(editor, desktop):
     log = editor.log()
     assert "Engine exit requested (reason: The main window was closed.)" in log
     assert "Error: " not in log
+
+
+def test_a_signal_wakes_an_editor_with_nothing_to_do(editor):
+    # Nobody else would wake it for ten seconds.
+    editor.do("stop_watching()")
+    editor.process.send_signal(signal.SIGTERM)
+    assert editor.process.wait(5) == 128 + signal.SIGTERM
+    assert "LogLaunch: The editor is asked to end by signal 15." in editor.log()

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace
 {
 
@@ -82,6 +84,15 @@ TEST_F(OffscreenApplication, AWindowHasThePlaceAndSizeOfItsDefinition)
 	EXPECT_EQ(Window->GetDPIScaleFactor(), 1.0f);
 	EXPECT_TRUE(Window->IsPointInWindow(639, 479));
 	EXPECT_FALSE(Window->IsPointInWindow(640, 0));
+}
+
+TEST_F(OffscreenApplication, WakeUpEndsOneWait)
+{
+	std::thread Other([this] { Application->WakeUp(); });
+	EXPECT_FALSE(Application->WaitForMessages(1000.0));
+	Other.join();
+	Application->WakeUp();
+	EXPECT_FALSE(Application->WaitForMessages(1000.0));
 }
 
 TEST_F(OffscreenApplication, ReportsWaitForThePump)

@@ -7,6 +7,7 @@
 #include "Framework/Docking/TabManager.h"
 #include "HAL/FileManager.h"
 #include "HAL/IConsoleManager.h"
+#include "HAL/PlatformMisc.h"
 #include "IPythonScriptPlugin.h"
 #include "Interfaces/IPluginManager.h"
 #include "Misc/App.h"
@@ -14,11 +15,11 @@
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/CoreMisc.h"
-#include "Misc/CoreDelegates.h"
 #include "Misc/OutputDeviceFile.h"
 #include "Misc/OutputDeviceStdOutput.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "TerminationSignals.h"
 #include "TroubleReport.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
@@ -36,6 +37,9 @@ namespace
 {
 /** Whoever wants every frame, an animation or a callback, gets no more than sixty a second. Input does not wait for it. */
 constexpr double ShortestFrame = 1.0 / 60.0;
+
+/** A shell gives this plus its number for a process that a signal ended. */
+constexpr int32 SignalStatus = 128;
 
 const FVector2D MainWindowSize(1280.0, 800.0);
 
@@ -123,6 +127,7 @@ void FEngineLoop::Init()
 	Modules.LoadModule(TEXT("EditorStyle"));
 	Modules.LoadModule(TEXT("PythonScriptPlugin"));
 	Modules.LoadModule(TEXT("EditorDriver"));
+	Signals = MakeUnique<FTerminationSignals>([] { FSlateApplication::Get().GetPlatformApplication()->WakeUp(); });
 	OpenMainWindow();
 
 	IPluginManager& Plugins = IPluginManager::Get();
@@ -133,6 +138,8 @@ void FEngineLoop::Init()
 	}
 	UE_LOG(LogLaunch, Log, TEXT("Project %s is open."), *FPaths::GetProjectFilePath());
 	FCoreDelegates::OnPostEngineInit.Broadcast();
+	// Whoever wanted the lines of the start has them; those of a long day would fill the memory.
+	GLog->EnableBacklog(false);
 }
 
 bool FEngineLoop::HasUser() const
@@ -178,6 +185,11 @@ void FEngineLoop::AdvanceClock()
 
 void FEngineLoop::Tick()
 {
+	if (const int32 Signal = FTerminationSignals::Take())
+	{
+		UE_LOG(LogLaunch, Log, TEXT("The editor is asked to end by signal %d."), Signal);
+		FPlatformMisc::RequestExitWithStatus(false, static_cast<uint8>(SignalStatus + Signal));
+	}
 	AdvanceClock();
 	FSlateApplication& Slate = FSlateApplication::Get();
 	Slate.PumpMessages();
@@ -221,7 +233,7 @@ void FEngineLoop::RunCommandLineCommands()
 		if (!bSucceeded)
 		{
 			UE_LOG(LogLaunch, Error, TEXT("The script failed: %s"), *Script);
-			ExitStatus = 1;
+			bScriptFailed = true;
 		}
 		if (!UEditorPythonScripting::GetKeepPythonScriptAlive())
 		{
@@ -250,6 +262,11 @@ void FEngineLoop::WaitForWork(double Longest)
 	FCoreDelegates::OnMainLoopWake.Broadcast();
 }
 
+int32 FEngineLoop::GetExitStatus() const
+{
+	return bScriptFailed ? 1 : FPlatformMisc::GetRequestedReturnCode();
+}
+
 void FEngineLoop::Exit()
 {
 	for (const TSharedRef<SDockTab>& Tab : FGlobalTabmanager::Get()->GetLiveTabs())
@@ -259,6 +276,7 @@ void FEngineLoop::Exit()
 	FSlateApplication::Get().CloseAllWindowsImmediately();
 	MainWindow.Reset();
 
+	Signals.Reset();
 	FCoreDelegates::OnEnginePreExit.Broadcast();
 	GConfig->Flush(false);
 	FModuleManager::Get().UnloadModulesAtShutdown();

@@ -4,6 +4,7 @@
 
 class FOutputDeviceFile;
 class FOutputDeviceStdOutput;
+class FTerminationSignals;
 class FTroubleReport;
 class SWindow;
 
@@ -29,7 +30,7 @@ public:
 	 */
 	bool PreInit(const TCHAR* CommandLine);
 
-	/** Loads the modules and the plugins and opens the main window. */
+	/** Loads the modules and the plugins and opens the main window. From then on SIGINT, SIGTERM and SIGHUP ask the editor to end. */
 	void Init();
 
 	/** False for a start without a display and without a script: nobody could use the editor, and nobody would end it. */
@@ -47,8 +48,11 @@ public:
 	/** Ends windows, modules with Python, objects and Slate, in this order. */
 	void Exit();
 
-	/** The status for the parent process: 1 when the script of the command line failed. */
-	int32 GetExitStatus() const { return ExitStatus; }
+	/**
+	 * The status for the parent process: 1 when the script of the command line failed, 128 and the number of the signal when one
+	 * ended the editor, otherwise what was asked for with FPlatformMisc::RequestExitWithStatus.
+	 */
+	int32 GetExitStatus() const;
 
 private:
 	void OpenLog();
@@ -60,8 +64,9 @@ private:
 	TUniquePtr<FOutputDeviceFile> LogFile;
 	TUniquePtr<FOutputDeviceStdOutput> StdOut;
 	TUniquePtr<FTroubleReport> TroubleReport;
+	TUniquePtr<FTerminationSignals> Signals;
 	TSharedPtr<SWindow> MainWindow;
-	int32 ExitStatus = 0;
+	bool bScriptFailed = false;
 	bool bCommandsDone = false;
 };
 

@@ -1,7 +1,8 @@
 #include "Offscreen/OffscreenApplication.h"
 
-#include "HAL/PlatformProcess.h"
 #include "Offscreen/OffscreenCursor.h"
+
+#include <chrono>
 
 FOffscreenApplication::FOffscreenApplication()
 	: GenericApplication(MakeShared<FOffscreenCursor>())
@@ -26,11 +27,22 @@ void FOffscreenApplication::PumpMessages(const float TimeDelta)
 
 bool FOffscreenApplication::WaitForMessages(const double Seconds)
 {
-	if (Reports.Num() == 0 && Seconds > 0.0)
+	std::unique_lock<std::mutex> Lock(SleepMutex);
+	if (Reports.Num() == 0)
 	{
-		FPlatformProcess::Sleep(float(Seconds));
+		Sleep.wait_for(Lock, std::chrono::duration<double>(Seconds), [this] { return bWoken; });
 	}
+	bWoken = false;
 	return Reports.Num() > 0;
+}
+
+void FOffscreenApplication::WakeUp()
+{
+	{
+		const std::lock_guard<std::mutex> Lock(SleepMutex);
+		bWoken = true;
+	}
+	Sleep.notify_one();
 }
 
 TSharedRef<FGenericWindow> FOffscreenApplication::MakeWindow()

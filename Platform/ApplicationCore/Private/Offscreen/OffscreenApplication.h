@@ -3,6 +3,9 @@
 #include "GenericPlatform/GenericApplication.h"
 #include "Offscreen/OffscreenWindow.h"
 
+#include <condition_variable>
+#include <mutex>
+
 /** A desktop in memory: one monitor of 1920 x 1080 pixels, at most one active window, no input of its own. */
 class FOffscreenApplication final : public GenericApplication
 {
@@ -12,6 +15,7 @@ public:
 
 	virtual void PumpMessages(const float TimeDelta) override;
 	virtual bool WaitForMessages(const double Seconds) override;
+	virtual void WakeUp() override;
 	virtual TSharedRef<FGenericWindow> MakeWindow() override;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
 								  const TSharedRef<FGenericWindowDefinition>& InDefinition,
@@ -51,4 +55,7 @@ private:
 	TArray<FReport> Reports;
 	TWeakPtr<FOffscreenWindow> ActiveWindow;
 	TWeakPtr<FGenericWindow> CaptureWindow;
+	std::mutex SleepMutex;
+	std::condition_variable Sleep;
+	bool bWoken = false;
 };

@@ -146,6 +146,13 @@ bool FSDLApplication::WaitForMessages(const double Seconds)
 	return SDL_WaitEventTimeout(nullptr, int(FMath::CeilToDouble(Milliseconds))) != 0;
 }
 
+void FSDLApplication::WakeUp()
+{
+	SDL_Event Event = {};
+	Event.type = SDL_USEREVENT;
+	SDL_PushEvent(&Event);
+}
+
 TSharedRef<FGenericWindow> FSDLApplication::MakeWindow()
 {
 	return MakeShared<FSDLWindow>();

@@ -19,6 +19,7 @@ public:
 
 	virtual void PumpMessages(const float TimeDelta) override;
 	virtual bool WaitForMessages(const double Seconds) override;
+	virtual void WakeUp() override;
 	virtual TSharedRef<FGenericWindow> MakeWindow() override;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
 								  const TSharedRef<FGenericWindowDefinition>& InDefinition,

@@ -98,6 +98,9 @@ public:
 	 */
 	virtual bool WaitForMessages(const double Seconds) = 0;
 
+	/** Ends the sleep of WaitForMessages, or its next one. May be called on any thread. */
+	virtual void WakeUp() = 0;
+
 	/** A window without a native counterpart yet; InitializeWindow makes that. */
 	virtual TSharedRef<FGenericWindow> MakeWindow() = 0;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
