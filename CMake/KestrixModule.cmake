@@ -42,10 +42,6 @@ function(kestrix_module_tests NAME)
 	cmake_parse_arguments(ARG "REFLECTED" "PCH" "LIBRARIES" ${ARGN})
 
 	file(GLOB_RECURSE SOURCES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/Tests/*.cpp)
-	# A module whose tests are not written yet still configures: the anchor of the precompiled header is an empty source.
-	if(NOT SOURCES)
-		set(SOURCES ${CMAKE_BINARY_DIR}/Pch/CorePch.cpp)
-	endif()
 	add_executable(${NAME}Tests ${SOURCES})
 	target_include_directories(${NAME}Tests PRIVATE Tests)
 	target_link_libraries(${NAME}Tests PRIVATE ${NAME} TestSupport GTest::gtest ${ARG_LIBRARIES})

@@ -25,6 +25,9 @@ if(KESTRIX_SANITIZERS)
 	add_compile_options(-fsanitize=${KESTRIX_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all
 		-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/SanitizerIgnores.txt)
 	add_link_options(-fsanitize=${KESTRIX_SANITIZERS})
+	add_library(LeakIgnores OBJECT ${CMAKE_CURRENT_LIST_DIR}/LeakIgnores.cpp)
+	target_compile_options(LeakIgnores PRIVATE -fvisibility=default -fno-sanitize=all)
+	link_libraries($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:$<TARGET_OBJECTS:LeakIgnores>>)
 endif()
 
 # The libraries of several builds of a plugin stand side by side in Binaries/Linux; each build knows its own by this suffix.
