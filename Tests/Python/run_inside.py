@@ -16,13 +16,13 @@ class Report:
     def __init__(self, file, pattern):
         # The reporter takes what is the output while pytest starts.
         self.output, sys.stdout = sys.stdout, file
-        self.pattern = pattern
+        self.pattern = pattern.lower()
 
     def pytest_sessionstart(self):
         sys.stdout = self.output
 
     def pytest_collection_modifyitems(self, items):
-        items[:] = [item for item in items if self.pattern in f"{item.module.__name__}.{item.name}"]
+        items[:] = [item for item in items if self.pattern in f"{item.module.__name__}.{item.name}".lower()]
 
 
 def main(test_file, junit_xml, report, editor_log, pattern=""):

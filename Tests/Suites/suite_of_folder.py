@@ -12,10 +12,10 @@ class Selection:
     """Picks tests as the other suites do: by a part of the name."""
 
     def __init__(self, pattern):
-        self.pattern = pattern
+        self.pattern = pattern.lower()
 
     def pytest_collection_modifyitems(self, items):
-        items[:] = [item for item in items if self.pattern in f"{item.module.__name__}.{item.name}"]
+        items[:] = [item for item in items if self.pattern in f"{item.module.__name__}.{item.name}".lower()]
 
 
 def run(folder, build, junit_xml, pattern=""):
