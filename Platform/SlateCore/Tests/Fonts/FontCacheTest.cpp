@@ -98,6 +98,15 @@ TEST(TextShaping, MissingCharactersComeFromOtherFonts)
 	EXPECT_EQ(Shaped->GetMaxTextHeight(), 14);
 }
 
+TEST(TextShaping, ChineseAndJapaneseHaveTheirCharacters)
+{
+	const FSlateFontCache Cache;
+	for (const FShapedGlyphEntry& Glyph : Cache.ShapeBidirectionalText(TEXT("\u786E\u5B9A \u3053\u3093"), Font, 1.0f)->GetGlyphs())
+	{
+		EXPECT_FALSE(Glyph.bIsMissing);
+	}
+}
+
 TEST(TextShaping, RightToLeftTextIsInVisualOrderWithWidthsInReadingOrder)
 {
 	const FSlateFontCache Cache;
