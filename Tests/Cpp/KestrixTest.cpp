@@ -131,15 +131,15 @@ TEST(KestrixModule, ClosedTabStaysAmongTheRecentOnesUntilTheNextChange)
 {
 	FRunningPlugin Plugin;
 	const FTab Tools = OpenToolsTab();
-	FKestrixModule& Module = FKestrixModule::Get();
-	FTab Closed = SNew(SDockTab);
-	Module.OnActiveTabChanged(Tools, Closed);
-	Closed.Reset();
-	EXPECT_EQ(RecentTabs(), TArray<FTab>({Tools, nullptr}));
+	Plugin.Launch(TEXT("A.json"), ToolWithRoot("{ \"SBox\": {} }"));
+	Plugin.Launch(TEXT("B.json"), ToolWithRoot("{ \"SBox\": {} }"));
+	const FTab B = FindTab(Plugin.Project.Path(TEXT("KX/Kestrix/Python/B.json")));
 
-	Module.OnActiveTabChanged(nullptr, nullptr);
+	EXPECT_TRUE(UVelmoraData::RequestClose(TEXT("A.json")));
+	EXPECT_EQ(RecentTabs(), TArray<FTab>({Tools, nullptr, B}));
 
-	EXPECT_EQ(RecentTabs(), TArray<FTab>({Tools}));
+	Tools->ActivateInParent(ETabActivationCause::SetDirectly);
+	EXPECT_EQ(RecentTabs(), TArray<FTab>({B, Tools}));
 }
 
 TEST(KestrixModule, EndUnregistersEveryTab)

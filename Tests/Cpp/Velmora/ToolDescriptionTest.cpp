@@ -292,6 +292,23 @@ TEST(ToolDescription, NonAsciiTextSurvives)
 	EXPECT_EQ(Label, FString(TEXT("Größe \U0001F3A8")));
 }
 
+TEST(ToolDescription, NumberOrBoolWhereATextBelongsIsReadAsText)
+{
+	const FTempProject Folder;
+	const FString Path = Folder.Write(TEXT("Tool.json"), TEXT("{ \"TabLabel\": 5, \"InitPyCmd\": true, \"OnClosePyCmd\": 1.5 }"));
+	const FLogCapture Log;
+	FString DataPath;
+	FString Value;
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Value));
+	EXPECT_EQ(Value, FString(TEXT("5")));
+	EXPECT_TRUE(GetInitPyCmd(Path, Value));
+	EXPECT_EQ(Value, FString(TEXT("true")));
+	EXPECT_TRUE(GetOnClosePyCmd(Path, Value));
+	EXPECT_EQ(Value, FString(TEXT("1.5")));
+	EXPECT_EQ(Log.Lines(), FLines());
+}
+
 TEST(ToolDescription, LargeDescriptionIsReadLineByLine)
 {
 	constexpr int32 NumLines = 200000;

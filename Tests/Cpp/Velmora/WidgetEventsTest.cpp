@@ -47,6 +47,17 @@ TEST(WidgetEvents, ClickRunsTheCommandOnceWithThePathOfTheButton)
 	EXPECT_EQ(Column.Python.Take(), FLines({TEXT("press(\"/SVerticalBox/Slots_0/SButton\")")}));
 }
 
+TEST(WidgetEvents, CommandOfAButtonThatIsNoTextIsNone)
+{
+	FColumn Column(R"json({ "AutoHeight": true, "SButton": { "Text": "Press", "OnClick": 5 } },
+		{ "AutoHeight": true, "SButton": { "Text": "Press", "OnClick": true } })json");
+
+	Column.Window.Click(Column.Child(0));
+	Column.Window.Click(Column.Child(1));
+
+	EXPECT_EQ(Column.Python.Take(), FLines());
+}
+
 TEST(WidgetEvents, ReleaseOutsideTheButtonRunsNothing)
 {
 	FColumn Column(R"json({ "AutoHeight": true, "SButton": { "Text": "Press", "OnClick": "press()" } })json");

@@ -91,6 +91,16 @@ TEST(ButtonBuilder, WrongStylesAreReportedAndTheButtonStands)
 		<< "both by the builder, and the text style once more by the decoration";
 }
 
+TEST(ButtonBuilder, TextStyleIsReadBeforeTheButtonsOwn)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	BuildButton(R"({ "SButton": { "ButtonStyle": { "Style": "B", "StyleName": "" }, "TextStyle": { "Style": "T", "StyleName": "" } } })");
+
+	EXPECT_EQ(Log.Warnings()[0], FString(TEXT("Style: T Not Support yet")));
+	EXPECT_EQ(Log.Warnings()[2], FString(TEXT("Style: B Not Support yet")));
+}
+
 TEST(ButtonBuilder, HorizontalPaddingOfTheSettingsHoldsForEveryButton)
 {
 	const auto WidthWith = [](int32 Padding)

@@ -73,6 +73,16 @@ TEST(TextBuilders, MarginThatCannotBeReadIsZero)
 	EXPECT_EQ(Log.Warnings(), FLines());
 }
 
+TEST(TextBuilders, PaddingIsReadBeforeTheMargin)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	DesiredSizeOf(R"({ "SMultiLineEditableTextBox": { "Margin": [1, 2, 3], "Padding": "wide" } })");
+
+	EXPECT_EQ(Log.Errors()[0], FString(TEXT("ParseMargin JsonValue Type Error, Need(Number / Array)")));
+	EXPECT_EQ(Log.Errors()[1], FString(TEXT("ParseMargin Error Array Size: 3")));
+}
+
 TEST(TextBuilders, UnknownMarshallerIsAnErrorAndThePlainWidget)
 {
 	const FPythonRecorder Python;

@@ -14,7 +14,7 @@
 TSharedRef<SButton> ParseSButton(const TSharedPtr<FJsonObject>& Object, const FString& Path, SVelmoraWidget* Context)
 {
 	const FLinearColor Color = ReadColor(*Object, TEXT("ButtonColorAndOpacity"), FLinearColor::White);
-	const FString Command = FillWidgetPath(ReadString(*Object, TEXT("OnClick")), Path / TEXT("SButton"));
+	const FString Command = FillWidgetPath(ReadTypedString(*Object, TEXT("OnClick")), Path / TEXT("SButton"));
 
 	const FTextBlockStyle* TextStyle = SButton::FArguments()._TextStyle;
 	ReadWidgetStyle(*Object, TEXT("TextStyle"), TextStyle);

@@ -9,6 +9,11 @@ FString ReadString(const FJsonObject& Object, const FString& Key)
 	return Value;
 }
 
+FString ReadTypedString(const FJsonObject& Object, const FString& Key)
+{
+	return Object.HasTypedField<EJson::String>(Key) ? Object.GetStringField(Key) : FString();
+}
+
 bool ReadBool(const FJsonObject& Object, const FString& Key)
 {
 	bool bValue = false;

@@ -10,6 +10,9 @@
 /** A text, or what converts to one. Empty by default. */
 FString ReadString(const FJsonObject& Object, const FString& Key);
 
+/** A text that the author wrote as a text; a value of another JSON type is none. Empty by default. */
+FString ReadTypedString(const FJsonObject& Object, const FString& Key);
+
 /** A bool, or what converts to one. False by default. */
 bool ReadBool(const FJsonObject& Object, const FString& Key);
 
