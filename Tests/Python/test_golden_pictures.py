@@ -146,7 +146,7 @@ def test_gallery(golden):
 
 
 def test_tool_tip(tool, golden):
-    t = tool(padded(button("Go", ToolTipText="What this button does")), TabLabel="Tip", InitTabSize=[300, 100], InitTabPosition=[0, 0])
+    t = tool(padded(button("Go", ToolTipText="What this button does")), TabLabel="Tip", InitTabSize=[300, 130], InitTabPosition=[0, 0])
     t.hover("SButton")
     Driver.wait(1)
     golden(t.tab, "ToolTip.png", keep_mouse=True)

@@ -115,7 +115,7 @@ bool FSlateApplication::OnKeyChar(const TCHAR Character, const bool IsRepeat)
 bool FSlateApplication::OnKeyDown(const int32 KeyCode, const uint32 CharacterCode, const bool IsRepeat)
 {
 	RequestFrame();
-	ToolTips->Close();
+	ToolTips->Dismiss();
 	const FKey Key = FInputKeyManager::Get().GetKeyFromCodes(KeyCode, CharacterCode);
 	const FKeyEvent Event(Key, GetModifierKeys(), IsRepeat, CharacterCode);
 	const FWidgetPath Path = GetFocusPath();

@@ -168,7 +168,7 @@ bool FSlateApplication::OnMouseDoubleClick(
 bool FSlateApplication::ProcessMouseButtonDown(const FPointerEvent& Event, bool bDoubleClick)
 {
 	RequestFrame();
-	ToolTips->Close();
+	ToolTips->Dismiss();
 	const FWidgetPath Path = GetPointerTarget(Event);
 	const TSharedPtr<SWidget> FocusedBefore = FocusedWidget.Pin();
 	MakeFocusVisible(false);

@@ -10,6 +10,9 @@ constexpr double Delay = 0.4;
 /** From the tip of the cursor, in pixels. */
 const FVector2D CursorOffset(12.0, 20.0);
 
+/** Slate units between the tip of the cursor and a tool tip above it. */
+constexpr double GapAbove = 6.0;
+
 TSharedPtr<IToolTip> FindToolTip(const FWidgetPath& Path)
 {
 	for (int32 Index = Path.Widgets.Num() - 1; Index >= 0; --Index)
@@ -33,13 +36,14 @@ void FSlateToolTips::OnHover(const FWidgetPath& Path, const FVector2D& InCursorP
 		Wanted = Found;
 		Window = Path.TopLevelWindow;
 		ShowTime = CurrentTime + Delay;
+		bDismissed = false;
 	}
 	CursorPosition = InCursorPosition;
 }
 
 double FSlateToolTips::GetNextCallTime() const
 {
-	return Wanted.IsValid() && !bShown ? ShowTime : 1e300;
+	return Wanted.IsValid() && !bShown && !bDismissed ? ShowTime : 1e300;
 }
 
 void FSlateToolTips::Tick(double CurrentTime)
@@ -61,13 +65,20 @@ void FSlateToolTips::Show()
 	const TSharedRef<SWidget> Tip = Wanted->AsWidget();
 	const float Scale = Host->GetDPIScaleFactor();
 	Tip->SlatePrepass(Scale);
-	const FVector2D Room = (Host->GetSizeInScreen() / Scale) - Tip->GetDesiredSize();
-	const FVector2D Place = (CursorPosition + CursorOffset - Host->GetPositionInScreen()) / Scale;
+	const FVector2D TipSize = Tip->GetDesiredSize();
+	const FVector2D Room = Host->GetSizeInScreen() / Scale - TipSize;
+	const FVector2D Cursor = (CursorPosition - Host->GetPositionInScreen()) / Scale;
+	FVector2D Place = Cursor + CursorOffset / Scale;
+	if (Place.Y > Room.Y)
+	{
+		// Moved up just into the window, it would lie under the cursor.
+		Place.Y = Cursor.Y - GapAbove - TipSize.Y;
+	}
 	Host->AddPopup(Tip, FVector2D(FMath::Max(FMath::Min(Place.X, Room.X), 0.0), FMath::Max(FMath::Min(Place.Y, Room.Y), 0.0)));
 	bShown = true;
 }
 
-void FSlateToolTips::Close()
+void FSlateToolTips::Hide()
 {
 	if (bShown)
 	{
@@ -77,5 +88,16 @@ void FSlateToolTips::Close()
 		}
 	}
 	bShown = false;
+}
+
+void FSlateToolTips::Dismiss()
+{
+	Hide();
+	bDismissed = true;
+}
+
+void FSlateToolTips::Close()
+{
+	Hide();
 	Wanted.Reset();
 }

@@ -17,16 +17,22 @@ public:
 	/** The time at which the tool tip appears; beyond all time when none is due. */
 	double GetNextCallTime() const;
 
+	/** Takes the tool tip away until the mouse goes to something else: the user has begun to work. */
+	void Dismiss();
+
+	/** Takes the tool tip away; it comes again while the mouse rests. */
 	void Close();
 
 	TSharedPtr<IToolTip> GetShown() const { return bShown ? Wanted : nullptr; }
 
 private:
 	void Show();
+	void Hide();
 
 	TSharedPtr<IToolTip> Wanted;
 	TWeakPtr<SWindow> Window;
 	FVector2D CursorPosition = FVector2D::ZeroVector;
 	double ShowTime = 0.0;
 	bool bShown = false;
+	bool bDismissed = false;
 };

@@ -294,6 +294,47 @@ TEST(ToolTips, AppearWhereTheMouseRestsAndGoWithIt)
 	EXPECT_FALSE(FSlateApplication::Get().GetShownToolTip().IsValid());
 }
 
+TEST(ToolTips, StayAwayFromWhatTheUserWorksWith)
+{
+	TSharedPtr<SButton> Button;
+	TSharedPtr<SBorder> Other;
+	FSlateTestWindow Window(SNew(SHorizontalBox) + SHorizontalBox::Slot()
+		[SAssignNew(Button, SButton).ToolTipText(FText::FromString(TEXT("What this does")))] + SHorizontalBox::Slot()
+		[SAssignNew(Other, SBorder).ToolTipText(FText::FromString(TEXT("What that is")))]);
+
+	Window.Click(Button.ToSharedRef());
+	Window.Wait(2.0);
+	EXPECT_FALSE(FSlateApplication::Get().GetShownToolTip().IsValid());
+
+	Window.MoveMouse(Window.MiddleOf(*Other));
+	Window.Wait(1.0);
+	EXPECT_TRUE(FSlateApplication::Get().GetShownToolTip().IsValid());
+	Window.PressKey(EKeys::Tab);
+	Window.Wait(2.0);
+	EXPECT_FALSE(FSlateApplication::Get().GetShownToolTip().IsValid());
+
+	Window.MoveMouse(Window.MiddleOf(*Button));
+	Window.Wait(1.0);
+	EXPECT_TRUE(FSlateApplication::Get().GetShownToolTip().IsValid());
+}
+
+TEST(ToolTips, StandAboveTheCursorWhereThereIsNoRoomBelow)
+{
+	TSharedPtr<SBorder> Border;
+	FSlateTestWindow Window(SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is"))), FVector2D(200.0, 60.0));
+	const FVector2D Cursor(190.0, 50.0);
+
+	Window.MoveMouse(Cursor);
+	Window.Wait(1.0);
+
+	ASSERT_TRUE(FSlateApplication::Get().GetShownToolTip().IsValid());
+	const FSlateRect Place =
+		FSlateApplication::Get().GetShownToolTip()->AsWidget()->GetPaintSpaceGeometry().GetLayoutBoundingRect();
+	EXPECT_LT(Place.Bottom, Cursor.Y);
+	EXPECT_GE(Place.Top, 0.0f);
+	EXPECT_LE(Place.Right, 200.0f);
+}
+
 TEST(Screenshot, TakesOneWidgetOutOfItsWindowAndRefusesAWidgetInNone)
 {
 	TSharedPtr<SBox> Box;
