@@ -44,9 +44,24 @@ def test_exception_of_a_change_names_the_field(tool, runs, log):
     t.type_into("#F", "x")
     errors = log.errors("LogPython")
     assert "NameError: name 'missing_name' is not defined" in errors
-    assert errors[-1].startswith("While handling ") and f'in tab "{t.title}"' in errors[-1]
+    assert errors[-1] == f'While handling character on SEditableText in #F in tab "{t.title}"'
     Driver.press_key("Enter")
     assert runs == ["x", "x"]
+
+
+def test_exception_of_a_timer_names_its_widget(tool, log):
+    t = tool(vertical(label("Clock", Aka="C", OnTick="1 / 0")))
+    Driver.wait()
+    assert log.errors("LogPython")[:6][-2:] == [
+        "ZeroDivisionError: division by zero",
+        f'While handling timer on STextBlock "Clock" #C in tab "{t.title}"',
+    ]
+
+
+def test_driver_refuses_to_wait_within_a_timer(tool, log):
+    t = tool(label("Clock", OnTick="import unreal; unreal.EditorDriver.wait(1)"))
+    Driver.wait()
+    assert "RuntimeError: The editor cannot be driven from within the event 'timer' of STextBlock \"Clock\"" in log.errors("LogPython")
 
 
 def test_exception_at_the_start_names_the_command_and_the_tool_opens(tool, log):

@@ -35,24 +35,26 @@ TArray<TWeakPtr<SWidget>> FFrameCalledWidgets::Snapshot() const
 	return Result;
 }
 
-double SlateFrame::CallShownWidgets(double CurrentTime, float DeltaTime)
+void SlateFrame::CallShownWidgets(
+	double CurrentTime, float DeltaTime, TFunctionRef<void(const TSharedRef<SWidget>& Widget, TFunctionRef<void()> Calls)> Around)
 {
-	double NextCallTime = BeyondAllTime;
 	for (const TWeakPtr<SWidget>& Entry : FFrameCalledWidgets::Get().Snapshot())
 	{
 		const TSharedPtr<SWidget> Widget = Entry.Pin();
-		if (!Widget.IsValid() || !Widget->IsShownInFrame())
+		if (!Widget.IsValid() || !Widget->IsShownInFrame() || Widget->GetNextCallTime() > CurrentTime)
 		{
 			continue;
 		}
-		if (Widget->GetCanTick())
-		{
-			Widget->Tick(Widget->GetTickSpaceGeometry(), CurrentTime, DeltaTime);
-			NextCallTime = CurrentTime;
-		}
-		NextCallTime = FMath::Min(NextCallTime, Widget->ExecuteActiveTimers(CurrentTime, DeltaTime));
+		Around(Widget.ToSharedRef(),
+			[&Widget, CurrentTime, DeltaTime]
+			{
+				if (Widget->GetCanTick())
+				{
+					Widget->Tick(Widget->GetTickSpaceGeometry(), CurrentTime, DeltaTime);
+				}
+				Widget->ExecuteActiveTimers(CurrentTime, DeltaTime);
+			});
 	}
-	return NextCallTime;
 }
 
 double SlateFrame::GetNextCallTime()

@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 
+class SWidget;
+
 /** The steps of a frame that are not bound to one window. FSlateApplication calls them in this order. */
 namespace SlateFrame
 {
@@ -11,9 +13,10 @@ SLATECORE_API void UpdateBoundAttributes();
 /**
  * Calls the ticks and the due active timers of all widgets that are shown.
  *
- * @return The time in seconds at which the next active timer of a shown widget is due; beyond all time when there is none.
+ * @param Around  Is given each widget with the calls that are due, and makes them.
  */
-SLATECORE_API double CallShownWidgets(double CurrentTime, float DeltaTime);
+SLATECORE_API void CallShownWidgets(
+	double CurrentTime, float DeltaTime, TFunctionRef<void(const TSharedRef<SWidget>& Widget, TFunctionRef<void()> Calls)> Around);
 
 /** The time at which the next active timer of a shown widget is due; beyond all time when there is none. */
 SLATECORE_API double GetNextCallTime();

@@ -1,5 +1,6 @@
 #include "Application/SlateFrame.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Application/SlateRoutingScope.h"
 #include "Framework/Application/SlateToolTips.h"
 #include "Misc/App.h"
 #include "Rendering/DrawElements.h"
@@ -53,7 +54,12 @@ void FSlateApplication::Tick()
 	ToolTips->Tick(CurrentTime);
 	SlateFrame::UpdateBoundAttributes();
 	UpdateWindowLayouts();
-	SlateFrame::CallShownWidgets(CurrentTime, DeltaTime);
+	SlateFrame::CallShownWidgets(CurrentTime, DeltaTime,
+		[this](const TSharedRef<SWidget>& Widget, TFunctionRef<void()> Calls)
+		{
+			const FRoutingScope Scope(*this, TEXT("timer"), Widget);
+			Calls();
+		});
 	// What the ticks and timers changed shows in this frame.
 	UpdateWindowLayouts();
 	DrawWindows(Windows);

@@ -1,6 +1,7 @@
 #include "Framework/Application/SlateRoutingScope.h"
 
 #include "Framework/Docking/TabManager.h"
+#include "Types/ISlateMetaData.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -26,6 +27,19 @@ FString FindShownText(SWidget& Widget)
 	}
 	return FString();
 }
+
+/** The name that scripts know the widget by, or else the nearest one around it. */
+FString FindTag(const TSharedRef<SWidget>& Widget)
+{
+	for (TSharedPtr<SWidget> Each = Widget; Each.IsValid(); Each = Each->GetParentWidget())
+	{
+		if (const TSharedPtr<FTagMetaData> Tag = Each->GetMetaData<FTagMetaData>())
+		{
+			return (Each == Widget ? TEXT(" #") : TEXT(" in #")) + Tag->Tag.ToString();
+		}
+	}
+	return FString();
+}
 }
 
 FString SlateEventText::Describe(const FRoutedEvent& Event)
@@ -36,6 +50,7 @@ FString SlateEventText::Describe(const FRoutedEvent& Event)
 	{
 		Text += FString::Printf(TEXT(" \"%s\""), *Shown);
 	}
+	Text += FindTag(Event.Widget);
 	if (const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindTabOfContent(Event.Widget))
 	{
 		Text += FString::Printf(TEXT(" in tab \"%s\""), *Tab->GetTabLabel().ToString());
