@@ -110,7 +110,7 @@ void FEngineLoop::OpenLog()
 		GLog->AddOutputDevice(StdOut.Get());
 		return;
 	}
-	std::fprintf(stderr, "The log is %s\n", TCHAR_TO_UTF8(*LogPath));
+	std::fprintf(stderr, LogFile->IsOpened() ? "The log is %s\n" : "The log cannot be written to %s\n", TCHAR_TO_UTF8(*LogFile->GetFilename()));
 	TroubleReport = MakeUnique<FTroubleReport>();
 	GLog->SerializeBacklog(TroubleReport.Get());
 	GLog->AddOutputDevice(TroubleReport.Get());

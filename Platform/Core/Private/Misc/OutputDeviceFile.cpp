@@ -1,6 +1,9 @@
 #include "Misc/OutputDeviceFile.h"
 
+#include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "HAL/FileManager.h"
@@ -13,24 +16,91 @@ namespace
 {
 const TCHAR* const GTimeFormat = TEXT("%Y.%m.%d-%H.%M.%S");
 
-void KeepOlderFile(const FString& Filename)
+/** So many older files of a log are kept. */
+constexpr int32 GMaxBackups = 10;
+
+/** So many processes may write logs of one name; what more would there be to read? */
+constexpr int32 GMaxWriters = 100;
+
+FString MakeBackupName(const FString& Filename)
 {
-	if (IFileManager::Get().FileSize(*Filename) <= 0)
+	const FString Stem = FPaths::GetBaseFilename(Filename, false) + TEXT("-backup-") +
+		IFileManager::Get().GetTimeStamp(*Filename).ToString(GTimeFormat);
+	const FString Extension = FPaths::GetExtension(Filename, true);
+	FString Name = Stem + Extension;
+	for (int32 Number = 2; FPaths::FileExists(Name); ++Number)
 	{
-		return;
+		Name = Stem + FString::Printf(TEXT("_%02d"), Number) + Extension;
 	}
-	const FString Suffix = TEXT("-backup-") + IFileManager::Get().GetTimeStamp(*Filename).ToString(GTimeFormat);
-	IFileManager::Get().Move(
-		*(FPaths::GetBaseFilename(Filename, false) + Suffix + FPaths::GetExtension(Filename, true)), *Filename);
+	return Name;
+}
+
+void DeleteOldestBackups(const FString& Filename)
+{
+	TArray<FString> Backups;
+	const FString Pattern = FPaths::GetBaseFilename(Filename, false) + TEXT("-backup-*") + FPaths::GetExtension(Filename, true);
+	IFileManager::Get().FindFiles(Backups, *Pattern, true, false);
+	// The order of names is that of time.
+	Backups.Sort();
+	for (int32 Index = 0; Index < Backups.Num() - GMaxBackups; ++Index)
+	{
+		IFileManager::Get().Delete(*(FPaths::GetPath(Filename) / Backups[Index]));
+	}
+}
+
+/** Whether an open file still has this name: another process may have moved it away since. */
+bool HasName(int Handle, const std::string& NativePath)
+{
+	struct stat Open;
+	struct stat Named;
+	return fstat(Handle, &Open) == 0 && stat(NativePath.c_str(), &Named) == 0 && Open.st_dev == Named.st_dev && Open.st_ino == Named.st_ino;
+}
+
+/** Opens an empty file for this process alone. An older file of that name becomes a backup. -1, with errno set, on failure. */
+int OpenAlone(const FString& Filename)
+{
+	const std::string NativePath = ToNativePath(*Filename);
+	for (;;)
+	{
+		const int Handle = open(NativePath.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+		if (Handle == -1)
+		{
+			return -1;
+		}
+		if (flock(Handle, LOCK_EX | LOCK_NB) != 0)
+		{
+			close(Handle);
+			errno = EWOULDBLOCK;
+			return -1;
+		}
+		const bool bNamed = HasName(Handle, NativePath);
+		if (bNamed && IFileManager::Get().FileSize(*Filename) == 0)
+		{
+			return Handle;
+		}
+		if (bNamed && !IFileManager::Get().Move(*MakeBackupName(Filename), *Filename))
+		{
+			// Rather one log behind the other than none.
+			return Handle;
+		}
+		close(Handle);
+	}
 }
 }
 
 FOutputDeviceFile::FOutputDeviceFile(const TCHAR* InFilename)
 	: Filename(InFilename)
 {
-	KeepOlderFile(Filename);
 	IFileManager::Get().MakeDirectory(*FPaths::GetPath(Filename), true);
-	Handle = open(ToNativePath(InFilename).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0666);
+	const FString Stem = FPaths::GetBaseFilename(Filename, false);
+	const FString Extension = FPaths::GetExtension(Filename, true);
+	Handle = OpenAlone(Filename);
+	for (int32 Number = 2; Handle == -1 && errno == EWOULDBLOCK && Number <= GMaxWriters; ++Number)
+	{
+		Filename = Stem + FString::Printf(TEXT("_%d"), Number) + Extension;
+		Handle = OpenAlone(Filename);
+	}
+	DeleteOldestBackups(Filename);
 	WriteLine(TEXT("Log file open, ") + FDateTime::Now().ToString(GTimeFormat));
 }
 

@@ -12,11 +12,13 @@ class CORE_API FOutputDeviceFile final : public FOutputDevice
 public:
 	/**
 	 * Opens the file with the first line. Missing folders are made; an older file of that name is renamed to
-	 * "<Name>-backup-YYYY.MM.DD-HH.MM.SS.<ext>" after the time of its last change.
+	 * "<Name>-backup-YYYY.MM.DD-HH.MM.SS.<ext>" after the time of its last change, and the last ten of these are kept. While another
+	 * process writes a log of that name, the file is "<Name>_2.<ext>" and so on.
 	 */
 	explicit FOutputDeviceFile(const TCHAR* InFilename);
 	virtual ~FOutputDeviceFile() override;
 
+	/** The name of the file that is written, which may have a number. */
 	const FString& GetFilename() const { return Filename; }
 
 	/** Whether the file could be opened; lines are lost otherwise. */

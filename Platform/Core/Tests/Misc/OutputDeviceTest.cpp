@@ -129,6 +129,39 @@ TEST(OutputDeviceFile, WritesLinesWithPrefixAtOnceAndAnswersToNobodyAfterTearDow
 	EXPECT_FALSE(Project.Read(TEXT("Saved/Logs/Run.log")).Contains(TEXT("too late")));
 }
 
+TEST(OutputDeviceFile, LogsOfOneNameAreWrittenSideBySide)
+{
+	const FTempProject Project;
+	FOutputDeviceFile First(*Project.Path(TEXT("Run.log")));
+	FOutputDeviceFile Second(*Project.Path(TEXT("Run.log")));
+	First.Log(TEXT("of the first"));
+	Second.Log(TEXT("of the second"));
+
+	EXPECT_EQ(First.GetFilename(), Project.Path(TEXT("Run.log")));
+	EXPECT_EQ(Second.GetFilename(), Project.Path(TEXT("Run_2.log")));
+	EXPECT_TRUE(Project.Read(TEXT("Run.log")).Contains(TEXT("of the first")));
+	EXPECT_TRUE(Project.Read(TEXT("Run_2.log")).Contains(TEXT("of the second")));
+}
+
+TEST(OutputDeviceFile, BackupsOfOneSecondAreAllKeptUpToTheLastTen)
+{
+	const FTempProject Project;
+	for (int32 Run = 1; Run <= 12; ++Run)
+	{
+		FOutputDeviceFile File(*Project.Path(TEXT("Run.log")));
+		File.Log(*FString::Printf(TEXT("run %d;"), Run));
+	}
+
+	TArray<FString> Backups;
+	IFileManager::Get().FindFiles(Backups, *Project.Path(TEXT("Run-backup-*.log")), true, false);
+	EXPECT_EQ(Backups.Num(), 10);
+	for (const FString& Backup : Backups)
+	{
+		EXPECT_FALSE(Project.Read(*Backup).Contains(TEXT("run 1;"))) << "the oldest";
+	}
+	EXPECT_TRUE(Project.Read(TEXT("Run.log")).Contains(TEXT("run 12;")));
+}
+
 TEST(OutputDeviceFile, OlderFileIsKeptAsBackup)
 {
 	const FTempProject Project;
