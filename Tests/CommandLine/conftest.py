@@ -1,5 +1,6 @@
 """A shell with a new project in front of it."""
 
+import contextlib
 import pathlib
 import subprocess
 
@@ -27,11 +28,29 @@ class Shell:
         file.write_text(text, encoding="utf-8")
         return file
 
+    def command(self, *arguments):
+        return [self.editor, *arguments, "-RenderOffScreen", "-unattended", f"-abslog={self.log}"]
+
     def start(self, *arguments):
-        command = [self.editor, *arguments, "-RenderOffScreen", "-unattended", f"-abslog={self.log}"]
+        """Runs the editor to its end."""
         return subprocess.run(
-            command, cwd=self.folder, stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=LONGEST_RUN, check=False
+            self.command(*arguments),
+            cwd=self.folder,
+            stdin=subprocess.DEVNULL,
+            capture_output=True,
+            text=True,
+            timeout=LONGEST_RUN,
+            check=False,
         )
+
+    @contextlib.contextmanager
+    def running(self, *arguments):
+        """An editor at work, whose standard error can be read."""
+        with subprocess.Popen(
+            self.command(*arguments), cwd=self.folder, stdin=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True
+        ) as process:
+            yield process
+            process.wait(LONGEST_RUN)
 
     def log_text(self):
         return self.log.read_text(encoding="utf-8")

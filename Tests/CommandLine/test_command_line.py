@@ -4,6 +4,8 @@ import signal
 
 import pytest
 
+LAUNCH = "import unreal; unreal.VelmoraData.launch_velmora_tool({tool!r})"
+
 
 def test_a_script_that_ends_well_gives_status_0(shell):
     run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('print(6 * 7)')}")
@@ -37,7 +39,33 @@ def test_console_commands_run_and_unknown_ones_are_named(shell):
 def test_a_project_that_is_not_there_gives_status_2_and_is_named(shell):
     run = shell.start("Trial/Nothing.uproject")
     assert run.returncode == 2
-    assert "Nothing.uproject' is not a project file" in run.stderr
+    assert "There is no project 'Trial/Nothing.uproject'." in run.stderr
+
+
+@pytest.mark.parametrize(
+    "arguments, trouble", [([], "The first argument names the project."), (["Trial"], "'Trial' is no project"), (["--help"], "usage: ")]
+)
+def test_without_a_project_the_usage_is_shown(shell, arguments, trouble):
+    run = shell.start(*arguments)
+    assert run.returncode == 2
+    assert trouble in run.stderr and "usage: <Project.uproject>" in run.stderr
+
+
+def test_a_script_in_the_working_folder_may_have_blanks_in_its_name(shell):
+    (shell.folder / "my first.py").write_text("print(6 * 7)", encoding="utf-8")
+    assert shell.start("Trial/Trial.uproject", "-ExecutePythonScript=my first.py").stdout.startswith("42\n")
+
+
+def test_what_python_prints_goes_to_the_terminal_as_it_is(shell):
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('print(6 * 7); 1 / 0')}")
+    assert run.stdout.startswith("42\n")
+
+
+def test_a_fault_in_a_description_is_told_with_its_place(shell):
+    tool = shell.folder / "Tool.json"
+    tool.write_text('{\n"Root": {}\n"TabLabel": ""\n}', encoding="utf-8")
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script(LAUNCH.format(tool=str(tool)))}")
+    assert f"PythonKX: Display: {tool}:3: " in run.stderr
 
 
 def test_with_stdout_the_log_goes_to_the_console_too(shell):
@@ -91,6 +119,15 @@ def test_a_signal_ends_the_editor_in_order(shell, number):
     assert f"LogLaunch: The editor is asked to end by signal {number:d}." in log
     assert "LogPython: The gallery was closed" in log
     assert "LogLaunch: The editor has ended." in log
+
+
+def test_a_busy_editor_says_so_and_ends_when_the_script_does(shell):
+    told = shell.folder / "told"
+    script = shell.script(f"import os\nos.kill(os.getpid(), {signal.SIGINT:d})\nwhile not os.path.exists({str(told)!r}): pass")
+    with shell.running("Trial/Trial.uproject", f"-ExecutePythonScript={script}") as editor:
+        assert any("The editor is busy" in line for line in editor.stderr)
+        told.touch()
+    assert editor.returncode == 128 + signal.SIGINT
 
 
 def test_a_second_signal_ends_a_script_that_never_comes_back(shell):

@@ -100,7 +100,7 @@ def test_broken_json_is_refused_with_its_line(tool, log):
     t = tool(text='{\n\t"Root": {\n\t\t"STextBlock" {}\n\t}\n}\n')
     assert not t.is_open
     assert f"Deserialize File {t.path} failed, check: '\\' " in log.warnings("PythonKX")
-    assert any(line.startswith(f"{t.path}:3: ") for line in log.lines("PythonKX", "Log"))
+    assert any(line.startswith(f"{t.path}:3: ") for line in log.lines("PythonKX", "Display"))
 
 
 def test_mistake_in_an_included_file_names_that_file(tool, log):
@@ -109,7 +109,7 @@ def test_mistake_in_an_included_file_names_that_file(tool, log):
         files={"Part.json": '"STextBlock": {\n"Text" "a"\n}\n'},
     )
     assert not t.is_open
-    assert any(line.startswith(f"{t.path.parent / 'Part.json'}:2: ") for line in log.lines("PythonKX", "Log"))
+    assert any(line.startswith(f"{t.path.parent / 'Part.json'}:2: ") for line in log.lines("PythonKX", "Display"))
 
 
 def test_file_that_includes_itself_does_so_not_without_end(tool, runs, log):

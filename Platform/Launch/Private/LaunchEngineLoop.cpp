@@ -20,7 +20,7 @@
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "TerminationSignals.h"
-#include "TroubleReport.h"
+#include "TerminalReport.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
@@ -52,6 +52,28 @@ FString MakeFullFromWorkingDirectory(const FString& Path)
 		: FPaths::ConvertRelativePathToFull(Path);
 }
 
+const ANSICHAR* const Usage =
+	"usage: <Project.uproject> [-ExecutePythonScript=\"file args\"] [-ExecCmds=\"a;b\"] [-RenderOffScreen] [-unattended]\n"
+	"       [-stdout] [-abslog=FILE] [-DisablePython]\n";
+
+/** What is wrong with the first argument as a line of text; empty if it names a project. */
+FString CheckProjectFile(const FString& Name)
+{
+	if (Name.IsEmpty() || Name.StartsWith(TEXT("-")))
+	{
+		return TEXT("The first argument names the project.\n");
+	}
+	if (FPaths::GetExtension(Name) != TEXT("uproject"))
+	{
+		return FString::Printf(TEXT("'%s' is no project: the name of one ends with .uproject.\n"), *Name);
+	}
+	if (!FPaths::FileExists(MakeFullFromWorkingDirectory(Name)))
+	{
+		return FString::Printf(TEXT("There is no project '%s'.\n"), *Name);
+	}
+	return FString();
+}
+
 void RunConsoleInput(const FString& Input)
 {
 	if (Input == TEXT("quit") || Input == TEXT("exit") || Input == TEXT("QUIT_EDITOR"))
@@ -76,13 +98,13 @@ bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 	FString ProjectFile;
 	const TCHAR* Rest = CommandLine;
 	FParse::Token(Rest, ProjectFile, false);
-	ProjectFile = MakeFullFromWorkingDirectory(ProjectFile);
-	if (FPaths::GetExtension(ProjectFile) != TEXT("uproject") || !FPaths::FileExists(ProjectFile))
+	const FString Trouble = CheckProjectFile(ProjectFile);
+	if (!Trouble.IsEmpty())
 	{
-		std::fprintf(
-			stderr, "'%s' is not a project file. The first argument names a .uproject file.\n", TCHAR_TO_UTF8(*ProjectFile));
+		std::fprintf(stderr, "%s%s", TCHAR_TO_UTF8(*Trouble), Usage);
 		return false;
 	}
+	ProjectFile = MakeFullFromWorkingDirectory(ProjectFile);
 	FPaths::SetProjectFilePath(ProjectFile);
 	OpenLog();
 	for (const FString& Switch : CommandLineSwitches::FindUnknown(CommandLine))
@@ -111,9 +133,9 @@ void FEngineLoop::OpenLog()
 		return;
 	}
 	std::fprintf(stderr, LogFile->IsOpened() ? "The log is %s\n" : "The log cannot be written to %s\n", TCHAR_TO_UTF8(*LogFile->GetFilename()));
-	TroubleReport = MakeUnique<FTroubleReport>();
-	GLog->SerializeBacklog(TroubleReport.Get());
-	GLog->AddOutputDevice(TroubleReport.Get());
+	TerminalReport = MakeUnique<FTerminalReport>();
+	GLog->SerializeBacklog(TerminalReport.Get());
+	GLog->AddOutputDevice(TerminalReport.Get());
 }
 
 void FEngineLoop::Init()
@@ -183,13 +205,18 @@ void FEngineLoop::AdvanceClock()
 	++GFrameCounter;
 }
 
-void FEngineLoop::Tick()
+void FEngineLoop::HandleSignal()
 {
 	if (const int32 Signal = FTerminationSignals::Take())
 	{
 		UE_LOG(LogLaunch, Log, TEXT("The editor is asked to end by signal %d."), Signal);
 		FPlatformMisc::RequestExitWithStatus(false, static_cast<uint8>(SignalStatus + Signal));
 	}
+}
+
+void FEngineLoop::Tick()
+{
+	HandleSignal();
 	AdvanceClock();
 	FSlateApplication& Slate = FSlateApplication::Get();
 	Slate.PumpMessages();
@@ -223,10 +250,11 @@ void FEngineLoop::RunCommandLineCommands()
 	FString Script;
 	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false))
 	{
-		if (FPaths::FileExists(Script))
+		const FString ScriptFile = MakeFullFromWorkingDirectory(Script);
+		if (FPaths::FileExists(ScriptFile))
 		{
 			// A name with blanks in it would be taken for a file with arguments.
-			Script = TEXT("\"") + Script + TEXT("\"");
+			Script = TEXT("\"") + ScriptFile + TEXT("\"");
 		}
 		IPythonScriptPlugin* const Python = IPythonScriptPlugin::Get();
 		const bool bSucceeded = Python && Python->ExecPythonCommand(*Script);
@@ -269,6 +297,8 @@ int32 FEngineLoop::GetExitStatus() const
 
 void FEngineLoop::Exit()
 {
+	// One may have come while the last script ran.
+	HandleSignal();
 	for (const TSharedRef<SDockTab>& Tab : FGlobalTabmanager::Get()->GetLiveTabs())
 	{
 		Tab->RequestCloseTab();

@@ -1,4 +1,4 @@
-#include "TroubleReport.h"
+#include "TerminalReport.h"
 
 #include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
@@ -6,10 +6,16 @@
 
 #include <cstdio>
 
-void FTroubleReport::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
+void FTerminalReport::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
 {
-	if (Verbosity <= ELogVerbosity::Warning)
+	static const FName Python("LogPython");
+	if (Verbosity <= ELogVerbosity::Display)
 	{
 		std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(*FOutputDeviceHelper::FormatLogLine(Verbosity, Category, V)));
+	}
+	else if (Verbosity == ELogVerbosity::Log && Category == Python)
+	{
+		std::printf("%s\n", TCHAR_TO_UTF8(V));
+		std::fflush(stdout);
 	}
 }

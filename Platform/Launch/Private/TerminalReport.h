@@ -2,8 +2,11 @@
 
 #include "Misc/OutputDevice.h"
 
-/** Tells warnings and errors on the standard error, for whoever started the editor from a shell and does not watch its log. */
-class FTroubleReport final : public FOutputDevice
+/**
+ * For whoever started the editor from a shell and does not watch its log: errors, warnings and what is of level Display on the
+ * standard error, what Python prints on the standard output.
+ */
+class FTerminalReport final : public FOutputDevice
 {
 public:
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;

@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace
@@ -12,6 +14,9 @@ constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP};
 /** What is written into the pipe, by which a handler, which may hardly do anything, wakes the listener. */
 constexpr char SignalCame = 's';
 constexpr char Stop = 'x';
+
+/** Milliseconds after which a user wonders whether the signal came. */
+constexpr int Patience = 1000;
 
 volatile std::sig_atomic_t GSignal = 0;
 int GPipe[2] = {-1, -1};
@@ -36,6 +41,11 @@ void Listen(const TFunction<void()>& OnSignal)
 	while (read(GPipe[0], &What, 1) == 1 && What != Stop)
 	{
 		OnSignal();
+		pollfd Next = {GPipe[0], POLLIN, 0};
+		if (poll(&Next, 1, Patience) == 0 && GSignal != 0)
+		{
+			std::fputs("The editor is busy, perhaps with a script, and ends when that comes back. The same signal again ends it at once.\n", stderr);
+		}
 	}
 }
 

@@ -5,7 +5,7 @@
 class FOutputDeviceFile;
 class FOutputDeviceStdOutput;
 class FTerminationSignals;
-class FTroubleReport;
+class FTerminalReport;
 class SWindow;
 
 /**
@@ -24,7 +24,8 @@ public:
 	 *
 	 * @param CommandLine The project file, then switches: -abslog=FILE, -stdout, -RenderOffScreen, -unattended,
 	 * -ExecutePythonScript="file args", -ExecCmds="a;b", -DisablePython.
-	 * Without -stdout, warnings and errors go to the standard error, behind the name of the log file.
+	 * Without -stdout, warnings and errors go to the standard error, behind the name of the log file, and what Python prints to the
+	 * standard output.
 	 *
 	 * @return False, with a message on the standard error, when there is no such project.
 	 */
@@ -56,6 +57,7 @@ public:
 
 private:
 	void OpenLog();
+	void HandleSignal();
 	void AdvanceClock();
 	void OpenMainWindow();
 	void RunCommandLineCommands();
@@ -63,7 +65,7 @@ private:
 
 	TUniquePtr<FOutputDeviceFile> LogFile;
 	TUniquePtr<FOutputDeviceStdOutput> StdOut;
-	TUniquePtr<FTroubleReport> TroubleReport;
+	TUniquePtr<FTerminalReport> TerminalReport;
 	TUniquePtr<FTerminationSignals> Signals;
 	TSharedPtr<SWindow> MainWindow;
 	bool bScriptFailed = false;

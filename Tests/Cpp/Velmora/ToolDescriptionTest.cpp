@@ -248,7 +248,7 @@ TEST(ToolDescription, SyntaxErrorIsPlacedInTheFileAndLineWhereItWasWritten)
 
 	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
 
-	const FString Place = TEXT("PythonKX: Log: ") + Part + TEXT(":3: ");
+	const FString Place = TEXT("PythonKX: Display: ") + Part + TEXT(":3: ");
 	EXPECT_TRUE(Log.Lines().ContainsByPredicate([&Place](const FString& Line) { return Line.StartsWith(Place); }));
 }
 
