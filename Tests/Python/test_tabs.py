@@ -7,6 +7,11 @@ from toolbench import PYTHON_FOLDER, Driver, Tool, label
 
 WINDOW = "Unreal Editor"
 
+HINT = """\
+No tool is open.
+Python opens tools: Content/Python/init_unreal.py of the project runs at each start,
+a script that the command line names with -ExecutePythonScript=FILE at this one."""
+
 
 @pytest.fixture
 def tools():
@@ -67,3 +72,12 @@ def test_own_window_ends_with_its_last_tab(tool):
     t.close()
     with pytest.raises(RuntimeError, match='There is no tab and no window "Alone"'):
         Driver.screenshot("Alone", "Saved/alone.png")
+
+
+def test_window_without_a_tab_says_what_to_do(tools):
+    assert not Driver.is_visible(WINDOW, "STextBlock", HINT)
+    for each in tools:
+        each.close()
+    assert Driver.is_visible(WINDOW, "STextBlock", HINT)
+    tools[0].launch()
+    assert not Driver.is_visible(WINDOW, "STextBlock", HINT)

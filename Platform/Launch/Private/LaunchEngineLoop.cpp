@@ -23,7 +23,10 @@
 #include "TerminalReport.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SOverlay.h"
 #include "Widgets/SWindow.h"
+#include "Widgets/Text/STextBlock.h"
 
 #include <climits>
 #include <cstdio>
@@ -42,6 +45,30 @@ constexpr double ShortestFrame = 1.0 / 60.0;
 constexpr int32 SignalStatus = 128;
 
 const FVector2D MainWindowSize(1280.0, 800.0);
+const FVector2D SmallestMainWindow(320.0, 200.0);
+const FLinearColor HintColor(0.25f, 0.25f, 0.25f);
+
+/** What the main window says while it shows no tab, so that nobody takes an editor without a tool for a broken one. */
+TSharedRef<SWidget> MakeHint()
+{
+	const auto IsNeeded = []
+	{ return FGlobalTabmanager::Get()->GetLiveTabs().Num() == 0 ? EVisibility::HitTestInvisible : EVisibility::Collapsed; };
+	// clang-format off
+	return SNew(SBox)
+		.HAlign(HAlign_Center)
+		.VAlign(VAlign_Center)
+		.Padding(FMargin(16.0f))
+		.Visibility(TAttribute<EVisibility>::Create(IsNeeded))
+		[
+			SNew(STextBlock)
+			.Text(FText::FromString(TEXT("No tool is open.\n"
+				"Python opens tools: Content/Python/init_unreal.py of the project runs at each start,\n"
+				"a script that the command line names with -ExecutePythonScript=FILE at this one.")))
+			.Justification(ETextJustify::Center)
+			.ColorAndOpacity(HintColor)
+		];
+	// clang-format on
+}
 
 /** The file name that the user gave, counted from the folder in which the editor was started. */
 FString MakeFullFromWorkingDirectory(const FString& Path)
@@ -176,8 +203,24 @@ void FEngineLoop::OpenMainWindow()
 	const FText Title = FText::FromString(FString::Printf(TEXT("Untitled - %s - Unreal Editor"), FApp::GetProjectName()));
 	const TSharedRef<FTabManager::FLayout> Layout =
 		FTabManager::NewLayout("MainFrame")->AddArea(FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack()));
-	MainWindow = SNew(SWindow).Title(Title).ClientSize(
-		MainWindowSize)[FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()];
+	// clang-format off
+	MainWindow = SNew(SWindow)
+		.Title(Title)
+		.ClientSize(MainWindowSize)
+		.MinWidth(SmallestMainWindow.X)
+		.MinHeight(SmallestMainWindow.Y)
+		[
+			SNew(SOverlay)
+			+ SOverlay::Slot()
+			[
+				FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()
+			]
+			+ SOverlay::Slot()
+			[
+				MakeHint()
+			]
+		];
+	// clang-format on
 	MainWindow->SetRequestDestroyWindowOverride(
 		FRequestDestroyWindowOverride::CreateRaw(this, &FEngineLoop::OnMainWindowWantsToClose));
 	FSlateApplication::Get().AddWindow(MainWindow.ToSharedRef());

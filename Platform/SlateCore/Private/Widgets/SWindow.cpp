@@ -45,6 +45,8 @@ void SWindow::Construct(const FArguments& InArgs)
 	AutoCenter = InArgs._AutoCenter;
 	ScreenPosition = InArgs._ScreenPosition;
 	Size = LimitSize(InArgs._ClientSize);
+	MinWidth = InArgs._MinWidth;
+	MinHeight = InArgs._MinHeight;
 	bSupportsMaximize = InArgs._SupportsMaximize;
 	bSupportsMinimize = InArgs._SupportsMinimize;
 	bSaneWindowPlacement = InArgs._SaneWindowPlacement;
@@ -80,6 +82,7 @@ FGenericWindowDefinition SWindow::MakeDefinition(const FPlatformRect& WorkArea) 
 	Definition.HasSizingFrame = true;
 	Definition.SupportsMaximize = bSupportsMaximize;
 	Definition.SupportsMinimize = bSupportsMinimize;
+	Definition.SizeLimits.SetMinWidth(MinWidth).SetMinHeight(MinHeight);
 	Definition.Title = Title.Get().ToString();
 	return Definition;
 }

@@ -39,6 +39,9 @@ public:
 	/** Desktop pixels; used when AutoCenter is None. */
 	SLATE_ARGUMENT(FVector2D, ScreenPosition)
 	SLATE_ARGUMENT(EAutoCenter, AutoCenter)
+	/** The user cannot make the window smaller than this, in desktop pixels. */
+	SLATE_ARGUMENT(TOptional<float>, MinWidth)
+	SLATE_ARGUMENT(TOptional<float>, MinHeight)
 	SLATE_ARGUMENT(bool, SupportsMaximize)
 	SLATE_ARGUMENT(bool, SupportsMinimize)
 	/** Whether a window that is placed by ScreenPosition is moved and shrunk into the work area. */
@@ -120,6 +123,8 @@ private:
 	FOnWindowClosed OnWindowClosed;
 	FRequestDestroyWindowOverride RequestDestroyOverride;
 	EAutoCenter AutoCenter = EAutoCenter::PrimaryWorkArea;
+	TOptional<float> MinWidth;
+	TOptional<float> MinHeight;
 	bool bSupportsMaximize = true;
 	bool bSupportsMinimize = true;
 	bool bSaneWindowPlacement = true;

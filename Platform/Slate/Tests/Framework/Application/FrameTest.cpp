@@ -232,6 +232,18 @@ TEST(Frame, APlacedWindowStaysInTheWorkAreaUnlessToldOtherwise)
 	EXPECT_EQ(FVector2D(Free.WidthDesiredOnScreen, Free.HeightDesiredOnScreen), FVector2D(300.0, 2000.0));
 }
 
+TEST(Frame, TheUserCannotMakeAWindowSmallerThanItsMinimum)
+{
+	const TSharedRef<SWindow> Window = SNew(SWindow).ClientSize(FVector2D(640.0, 480.0)).MinWidth(300.0f).MinHeight(200.0f);
+	FSlateApplication::Get().AddWindow(Window);
+
+	Window->Resize(FVector2D(10.0, 10.0));
+	FSlateApplication::Get().PumpMessages();
+
+	EXPECT_EQ(Window->GetSizeInScreen(), FVector2D(300.0, 200.0));
+	Window->RequestDestroyWindow();
+}
+
 TEST(Frame, ResizingAWindowLaysItOutAnew)
 {
 	TSharedPtr<SBorder> Border;
