@@ -29,7 +29,8 @@ def tool(request):
     # The keys of a description have letters in both cases; text is one that is no JSON.
     def make(root=None, *, text=None, files=None, **keys):
         folder = PYTHON_FOLDER / "".join(part for part in request.node.name if part.isalnum())
-        new = Tool(folder, f"{request.node.name[:40]} {len(made)}", root, text, files or {}, keys)
+        file = f"Tool{len(made) or ''}.json"
+        new = Tool(folder, f"{request.node.name[:40]} {len(made)}", root, text, files or {}, keys, file)
         made.append(new)
         recorder.runs.clear()
         new.launch()

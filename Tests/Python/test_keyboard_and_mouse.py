@@ -2,7 +2,6 @@
 
 import pathlib
 
-import pytest
 import unreal
 
 import pictures
@@ -26,19 +25,6 @@ def test_tab_walks_through_everything_that_takes_the_keyboard(tool, runs):
         Driver.press_key("Tab")
         Driver.type_text("x") if key == "x" else Driver.press_key(key)
     assert runs == ["A", "B", "C", "D", "E"]
-
-
-def test_text_that_nothing_takes_raises(tool):
-    t = tool(vertical(button("B"), field("F")))
-    with pytest.raises(RuntimeError, match="'a' was not taken: .* has the keyboard focus"):
-        Driver.type_text("a")
-    t.click("SButton")
-    with pytest.raises(RuntimeError, match="'b' was not taken: SButton \"B\" has the keyboard focus"):
-        Driver.type_text("b")
-    t.click("#F")
-    with pytest.raises(RuntimeError, match="'\t' was not taken: SEditableText \"c\" has the keyboard focus"):
-        Driver.type_text("c\td")
-    assert t.data.get_text("F") == "c"
 
 
 def test_shift_tab_walks_back(tool, runs):

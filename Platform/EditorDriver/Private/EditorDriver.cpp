@@ -1,6 +1,7 @@
 #include "EditorDriver.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/TabManager.h"
 #include "ImageUtils.h"
 #include "InputPlayer.h"
 #include "Misc/FileHelper.h"
@@ -9,6 +10,7 @@
 #include "Rendering/SlateRenderer.h"
 #include "UObject/Stack.h"
 #include "WidgetFinder.h"
+#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
 IMPLEMENT_MODULE(FDefaultModuleImpl, EditorDriver)
@@ -66,7 +68,9 @@ bool MoveOver(const FWidgetDescription& Description, float U = 0.5f, float V = 0
 	}
 	if (!Widget->IsShownInFrame())
 	{
-		Raise(FString::Printf(TEXT("%s is not shown"), *Description.ToString()));
+		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindTabOfContent(Widget.ToSharedRef());
+		const bool bBehind = Tab.IsValid() && !Tab->IsForeground();
+		Raise(FString::Printf(TEXT("%s is not shown%s"), *Description.ToString(), bBehind ? TEXT("; its tab is behind another") : TEXT("")));
 		return false;
 	}
 	const FVector2D Place = Widget->GetTickSpaceGeometry().GetAbsolutePositionAtCoordinates(FVector2D(U, V));
@@ -242,6 +246,11 @@ int32 UEditorDriver::Count(const FString& Tab, const FString& Type, const FStrin
 
 void UEditorDriver::Wait(float Seconds)
 {
+	if (Seconds < 0.0f)
+	{
+		Raise(FString::Printf(TEXT("There is no waiting for %g seconds"), Seconds));
+		return;
+	}
 	if (MayRunFrames())
 	{
 		InputPlayer::Run(Seconds);

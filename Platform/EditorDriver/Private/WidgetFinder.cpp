@@ -23,16 +23,23 @@ void Visit(SWidget& Widget, int32 Depth, FunctionType&& Function)
 	}
 }
 
+/** By identifier or whole label, or by a beginning that only one label has. */
 TSharedPtr<SDockTab> FindTab(const FString& Name)
 {
+	TArray<TSharedRef<SDockTab>> Beginning;
 	for (const TSharedRef<SDockTab>& Tab : FGlobalTabmanager::Get()->GetLiveTabs())
 	{
-		if (Tab->GetLayoutIdentifier().ToString() == Name || Tab->GetTabLabel().ToString().StartsWith(Name))
+		const FString Label = Tab->GetTabLabel().ToString();
+		if (Tab->GetLayoutIdentifier().ToString() == Name || Label.Equals(Name))
 		{
 			return Tab;
 		}
+		if (Label.StartsWith(Name))
+		{
+			Beginning.Add(Tab);
+		}
 	}
-	return nullptr;
+	return Beginning.Num() == 1 ? TSharedPtr<SDockTab>(Beginning[0]) : nullptr;
 }
 
 TSharedPtr<SWindow> FindWindowByTitle(const FString& Title)
@@ -60,6 +67,33 @@ bool IsOfDescribedType(const SWidget& Widget, const FString& Type)
 		return GetAkaName(Widget) == FName(*Type.Mid(1));
 	}
 	return Type.IsEmpty() || Widget.GetTypeAsString() == Type;
+}
+
+/** What the author of a description that nothing fits may have meant: what has a name, or what is of the type. */
+FString SuggestOthers(const FWidgetDescription& Description)
+{
+	constexpr int32 MaxSuggestions = 12;
+
+	const bool bByName = Description.Type.StartsWith(TEXT("#"));
+	if (!bByName && Description.Type.IsEmpty())
+	{
+		return FString();
+	}
+	TArray<FString> Others;
+	for (const TSharedRef<SWidget>& Widget : WidgetFinder::FindAll({Description.Tab, bByName ? FString() : Description.Type, FString(), 0}))
+	{
+		const FName Name = GetAkaName(*Widget);
+		if (!bByName || !Name.IsNone())
+		{
+			Others.Add(bByName ? TEXT("#") + Name.ToString() : WidgetFinder::Describe(*Widget));
+		}
+	}
+	if (Others.Num() > MaxSuggestions)
+	{
+		Others.SetNum(MaxSuggestions);
+		Others.Add(TEXT("..."));
+	}
+	return Others.Num() > 0 ? TEXT("; there is ") + FString::Join(Others, TEXT(", ")) : FString();
 }
 
 /** The text of a widget that has one of its own. */
@@ -149,6 +183,10 @@ TSharedPtr<SWidget> WidgetFinder::Find(const FWidgetDescription& Description, FS
 		if (All.Num() > 0)
 		{
 			OutError += FString::Printf(TEXT("; they are numbered from 0 to %d"), All.Num() - 1);
+		}
+		else
+		{
+			OutError += SuggestOthers(Description);
 		}
 		return nullptr;
 	}

@@ -21,9 +21,9 @@ public:
 	/**
 	 * Moves the mouse to the middle of a widget, presses the left button and releases it.
 	 *
-	 * @param Tab  Label or identifier of a tab, or title of a window. A label may be given by its beginning.
+	 * @param Tab  Label or identifier of a tab, or title of a window. A label may be given by a beginning that no other has.
 	 * @param Type  Type of the widget, such as "SButton", or "#name".
-	 * @param Text  The text that the widget shows, itself or within it; empty for any.
+	 * @param Text  The whole text that the widget shows, which may be that of a widget within it; empty for any.
 	 * @param Index  Which one of those that are alike, from 0 in the order of the tree.
 	 * @return What took the press, such as: SButton "Find".
 	 */
@@ -119,7 +119,7 @@ public:
 	 * Lets the editor run. Off-screen its clock goes a sixtieth of a second a frame, however fast the frames are, so that a
 	 * minute passes in milliseconds. Within an event of a widget it raises.
 	 *
-	 * @param Seconds  Time of the editor; 0 lets one frame pass.
+	 * @param Seconds  Time of the editor; 0 lets one frame pass, less raises.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")
 	static void Wait(float Seconds = 0.0f);
