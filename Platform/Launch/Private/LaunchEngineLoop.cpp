@@ -1,7 +1,7 @@
 #include "LaunchEngineLoop.h"
 
-#include "CommandLineSwitches.h"
 #include "Containers/Ticker.h"
+#include "EditorCommandLine.h"
 #include "EditorPythonScriptingLibrary.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
@@ -10,6 +10,7 @@
 #include "HAL/PlatformMisc.h"
 #include "IPythonScriptPlugin.h"
 #include "Interfaces/IPluginManager.h"
+#include "MainWindow.h"
 #include "Misc/App.h"
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
@@ -19,18 +20,13 @@
 #include "Misc/OutputDeviceStdOutput.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
-#include "TerminationSignals.h"
 #include "TerminalReport.h"
+#include "TerminationSignals.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
-#include "Widgets/Layout/SBox.h"
-#include "Widgets/SOverlay.h"
 #include "Widgets/SWindow.h"
-#include "Widgets/Text/STextBlock.h"
 
-#include <climits>
 #include <cstdio>
-#include <unistd.h>
 
 DEFINE_LOG_CATEGORY_STATIC(LogLaunch, Log, All);
 
@@ -43,63 +39,6 @@ constexpr double ShortestFrame = 1.0 / 60.0;
 
 /** A shell gives this plus its number for a process that a signal ended. */
 constexpr int32 SignalStatus = 128;
-
-const FVector2D MainWindowSize(1280.0, 800.0);
-const FVector2D SmallestMainWindow(320.0, 200.0);
-const FLinearColor HintColor(0.25f, 0.25f, 0.25f);
-
-/** What the main window says while it shows no tab, so that nobody takes an editor without a tool for a broken one. */
-TSharedRef<SWidget> MakeHint()
-{
-	const auto IsNeeded = []
-	{ return FGlobalTabmanager::Get()->GetLiveTabs().Num() == 0 ? EVisibility::HitTestInvisible : EVisibility::Collapsed; };
-	// clang-format off
-	return SNew(SBox)
-		.HAlign(HAlign_Center)
-		.VAlign(VAlign_Center)
-		.Padding(FMargin(16.0f))
-		.Visibility(TAttribute<EVisibility>::Create(IsNeeded))
-		[
-			SNew(STextBlock)
-			.Text(FText::FromString(TEXT("No tool is open.\n"
-				"Python opens tools: Content/Python/init_unreal.py of the project runs at each start,\n"
-				"a script that the command line names with -ExecutePythonScript=FILE at this one.")))
-			.Justification(ETextJustify::Center)
-			.ColorAndOpacity(HintColor)
-		];
-	// clang-format on
-}
-
-/** The file name that the user gave, counted from the folder in which the editor was started. */
-FString MakeFullFromWorkingDirectory(const FString& Path)
-{
-	char Folder[PATH_MAX];
-	return FPaths::IsRelative(Path) && getcwd(Folder, sizeof(Folder))
-		? FPaths::ConvertRelativePathToFull(UTF8_TO_TCHAR(Folder), Path)
-		: FPaths::ConvertRelativePathToFull(Path);
-}
-
-const ANSICHAR* const Usage =
-	"usage: <Project.uproject> [-ExecutePythonScript=\"file args\"] [-ExecCmds=\"a;b\"] [-RenderOffScreen] [-unattended]\n"
-	"       [-stdout] [-abslog=FILE] [-DisablePython]\n";
-
-/** What is wrong with the first argument as a line of text; empty if it names a project. */
-FString CheckProjectFile(const FString& Name)
-{
-	if (Name.IsEmpty() || Name.StartsWith(TEXT("-")))
-	{
-		return TEXT("The first argument names the project.\n");
-	}
-	if (FPaths::GetExtension(Name) != TEXT("uproject"))
-	{
-		return FString::Printf(TEXT("'%s' is no project: the name of one ends with .uproject.\n"), *Name);
-	}
-	if (!FPaths::FileExists(MakeFullFromWorkingDirectory(Name)))
-	{
-		return FString::Printf(TEXT("There is no project '%s'.\n"), *Name);
-	}
-	return FString();
-}
 
 void RunConsoleInput(const FString& Input)
 {
@@ -125,16 +64,16 @@ bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 	FString ProjectFile;
 	const TCHAR* Rest = CommandLine;
 	FParse::Token(Rest, ProjectFile, false);
-	const FString Trouble = CheckProjectFile(ProjectFile);
+	const FString Trouble = EditorCommandLine::CheckProjectFile(ProjectFile);
 	if (!Trouble.IsEmpty())
 	{
-		std::fprintf(stderr, "%s%s", TCHAR_TO_UTF8(*Trouble), Usage);
+		std::fprintf(stderr, "%s%s", TCHAR_TO_UTF8(*Trouble), EditorCommandLine::Usage);
 		return false;
 	}
-	ProjectFile = MakeFullFromWorkingDirectory(ProjectFile);
+	ProjectFile = EditorCommandLine::MakeFull(ProjectFile);
 	FPaths::SetProjectFilePath(ProjectFile);
 	OpenLog();
-	for (const FString& Switch : CommandLineSwitches::FindUnknown(CommandLine))
+	for (const FString& Switch : EditorCommandLine::FindUnknownSwitches(CommandLine))
 	{
 		UE_LOG(LogLaunch, Warning, TEXT("Unknown switch: %s"), *Switch);
 	}
@@ -200,27 +139,7 @@ bool FEngineLoop::HasUser() const
 
 void FEngineLoop::OpenMainWindow()
 {
-	const FText Title = FText::FromString(FString::Printf(TEXT("Untitled - %s - Unreal Editor"), FApp::GetProjectName()));
-	const TSharedRef<FTabManager::FLayout> Layout =
-		FTabManager::NewLayout("MainFrame")->AddArea(FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack()));
-	// clang-format off
-	MainWindow = SNew(SWindow)
-		.Title(Title)
-		.ClientSize(MainWindowSize)
-		.MinWidth(SmallestMainWindow.X)
-		.MinHeight(SmallestMainWindow.Y)
-		[
-			SNew(SOverlay)
-			+ SOverlay::Slot()
-			[
-				FGlobalTabmanager::Get()->RestoreFrom(Layout, nullptr).ToSharedRef()
-			]
-			+ SOverlay::Slot()
-			[
-				MakeHint()
-			]
-		];
-	// clang-format on
+	MainWindow = MakeMainWindow();
 	MainWindow->SetRequestDestroyWindowOverride(
 		FRequestDestroyWindowOverride::CreateRaw(this, &FEngineLoop::OnMainWindowWantsToClose));
 	FSlateApplication::Get().AddWindow(MainWindow.ToSharedRef());
@@ -293,7 +212,7 @@ void FEngineLoop::RunCommandLineCommands()
 	FString Script;
 	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false))
 	{
-		const FString ScriptFile = MakeFullFromWorkingDirectory(Script);
+		const FString ScriptFile = EditorCommandLine::MakeFull(Script);
 		if (FPaths::FileExists(ScriptFile))
 		{
 			// A name with blanks in it would be taken for a file with arguments.

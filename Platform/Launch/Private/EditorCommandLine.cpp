@@ -1,4 +1,9 @@
-#include "CommandLineSwitches.h"
+#include "EditorCommandLine.h"
+
+#include "Misc/Paths.h"
+
+#include <climits>
+#include <unistd.h>
 
 namespace
 {
@@ -54,7 +59,36 @@ bool IsKnown(const FString& Switch)
 }
 }
 
-TArray<FString> CommandLineSwitches::FindUnknown(const FString& CommandLine)
+const ANSICHAR* const EditorCommandLine::Usage =
+	"usage: <Project.uproject> [-ExecutePythonScript=\"file args\"] [-ExecCmds=\"a;b\"] [-RenderOffScreen] [-unattended]\n"
+	"       [-stdout] [-abslog=FILE] [-DisablePython]\n";
+
+FString EditorCommandLine::CheckProjectFile(const FString& Name)
+{
+	if (Name.IsEmpty() || Name.StartsWith(TEXT("-")))
+	{
+		return TEXT("The first argument names the project.\n");
+	}
+	if (FPaths::GetExtension(Name) != TEXT("uproject"))
+	{
+		return FString::Printf(TEXT("'%s' is no project: the name of one ends with .uproject.\n"), *Name);
+	}
+	if (!FPaths::FileExists(MakeFull(Name)))
+	{
+		return FString::Printf(TEXT("There is no project '%s'.\n"), *Name);
+	}
+	return FString();
+}
+
+FString EditorCommandLine::MakeFull(const FString& Path)
+{
+	char Folder[PATH_MAX];
+	return FPaths::IsRelative(Path) && getcwd(Folder, sizeof(Folder))
+		? FPaths::ConvertRelativePathToFull(UTF8_TO_TCHAR(Folder), Path)
+		: FPaths::ConvertRelativePathToFull(Path);
+}
+
+TArray<FString> EditorCommandLine::FindUnknownSwitches(const FString& CommandLine)
 {
 	TArray<FString> Unknown;
 	for (const FString& Word : SplitIntoWords(CommandLine))
