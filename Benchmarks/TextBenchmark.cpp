@@ -93,7 +93,8 @@ void TypeIntoLongText(benchmark::State& State)
 	const TSharedRef<SWindow> Window = ShowWindow(Box);
 	PassFrame();
 	FSlateApplication& Application = FSlateApplication::Get();
-	Application.OnMouseDown(Window->GetNativeWindow(), EMouseButtons::Left, Window->GetPositionInScreen() + FVector2D(200.0, 200.0));
+	Application.OnMouseDown(
+		Window->GetNativeWindow(), EMouseButtons::Left, Window->GetPositionInScreen() + FVector2D(200.0, 200.0));
 	Application.OnMouseUp(EMouseButtons::Left, Window->GetPositionInScreen() + FVector2D(200.0, 200.0));
 	Box->GoTo(FTextLocation(NumLines / 2, 3));
 	PassFrame();

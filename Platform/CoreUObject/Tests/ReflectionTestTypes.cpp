@@ -30,11 +30,11 @@ bool UTestObject::GetLabel(FName Which, FString& OutLabel) const
 	return true;
 }
 
-FString UTestObject::Describe(const FString& Text, FName Name, float Scale, bool bLoud, FVector2D Size, const FLinearColor& Colour, FVector Where,
-	ETestColour Kind, UObject* Object, const FString& End)
+FString UTestObject::Describe(const FString& Text, FName Name, float Scale, bool bLoud, FVector2D Size,
+	const FLinearColor& Colour, FVector Where, ETestColour Kind, UObject* Object, const FString& End)
 {
-	return FString::Printf(TEXT("%s %s %.2f %d %.1f %.1f %.1f %d %s%s"), *Text, *Name.ToString(), Scale, int32(bLoud), Size.X, Colour.A, Where.Z,
-		int32(Kind), *GetNameSafe(Object), *End);
+	return FString::Printf(TEXT("%s %s %.2f %d %.1f %.1f %.1f %d %s%s"), *Text, *Name.ToString(), Scale, int32(bLoud), Size.X,
+		Colour.A, Where.Z, int32(Kind), *GetNameSafe(Object), *End);
 }
 
 void UTestObject::Grow(TArray<int32>& Numbers, int32 By)

@@ -70,7 +70,8 @@ bool MoveOver(const FWidgetDescription& Description, float U = 0.5f, float V = 0
 	{
 		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindTabOfContent(Widget.ToSharedRef());
 		const bool bBehind = Tab.IsValid() && !Tab->IsForeground();
-		Raise(FString::Printf(TEXT("%s is not shown%s"), *Description.ToString(), bBehind ? TEXT("; its tab is behind another") : TEXT("")));
+		Raise(FString::Printf(
+			TEXT("%s is not shown%s"), *Description.ToString(), bBehind ? TEXT("; its tab is behind another") : TEXT("")));
 		return false;
 	}
 	const FVector2D Place = Widget->GetTickSpaceGeometry().GetAbsolutePositionAtCoordinates(FVector2D(U, V));

@@ -80,7 +80,8 @@ FString SuggestOthers(const FWidgetDescription& Description)
 		return FString();
 	}
 	TArray<FString> Others;
-	for (const TSharedRef<SWidget>& Widget : WidgetFinder::FindAll({Description.Tab, bByName ? FString() : Description.Type, FString(), 0}))
+	for (const TSharedRef<SWidget>& Widget :
+		WidgetFinder::FindAll({Description.Tab, bByName ? FString() : Description.Type, FString(), 0}))
 	{
 		const FName Name = GetAkaName(*Widget);
 		if (!bByName || !Name.IsNone())

@@ -282,8 +282,8 @@ const TMap<FKey, FKeyDetails>& GetDetailsOfKeys()
 		TMap<FKey, FKeyDetails> Result;
 		for (const FKeyRow& Row : GKeyRows)
 		{
-			Result.Add(Row.Key,
-					   FKeyDetails(Row.Key, FText::FromString(Row.LongName), FText::FromString(Row.ShortName), Row.Flags));
+			Result.Add(
+				Row.Key, FKeyDetails(Row.Key, FText::FromString(Row.LongName), FText::FromString(Row.ShortName), Row.Flags));
 		}
 		return Result;
 	}();

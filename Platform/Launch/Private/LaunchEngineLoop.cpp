@@ -98,7 +98,8 @@ void FEngineLoop::OpenLog()
 		GLog->AddOutputDevice(StdOut.Get());
 		return;
 	}
-	std::fprintf(stderr, LogFile->IsOpened() ? "The log is %s\n" : "The log cannot be written to %s\n", TCHAR_TO_UTF8(*LogFile->GetFilename()));
+	std::fprintf(stderr, LogFile->IsOpened() ? "The log is %s\n" : "The log cannot be written to %s\n",
+		TCHAR_TO_UTF8(*LogFile->GetFilename()));
 	TerminalReport = MakeUnique<FTerminalReport>();
 	GLog->SerializeBacklog(TerminalReport.Get());
 	GLog->AddOutputDevice(TerminalReport.Get());

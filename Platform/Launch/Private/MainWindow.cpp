@@ -18,7 +18,9 @@ const FLinearColor HintColor(0.25f, 0.25f, 0.25f);
 TSharedRef<SWidget> MakeHint()
 {
 	const auto IsNeeded = []
-	{ return FGlobalTabmanager::Get()->GetLiveTabs().Num() == 0 ? EVisibility::HitTestInvisible : EVisibility::Collapsed; };
+	{
+		return FGlobalTabmanager::Get()->GetLiveTabs().Num() == 0 ? EVisibility::HitTestInvisible : EVisibility::Collapsed;
+	};
 	// clang-format off
 	return SNew(SBox)
 		.HAlign(HAlign_Center)

@@ -44,7 +44,9 @@ void Listen(const TFunction<void()>& OnSignal)
 		pollfd Next = {GPipe[0], POLLIN, 0};
 		if (poll(&Next, 1, Patience) == 0 && GSignal != 0)
 		{
-			std::fputs("The editor is busy, perhaps with a script, and ends when that comes back. The same signal again ends it at once.\n", stderr);
+			std::fputs("The editor is busy, perhaps with a script, and ends when that comes back. The same signal again ends it "
+					   "at once.\n",
+				stderr);
 		}
 	}
 }

@@ -4,8 +4,7 @@
 
 namespace
 {
-const TCHAR* const GLoadingPhases[] =
-{
+const TCHAR* const GLoadingPhases[] = {
 	TEXT("EarliestPossible"),
 	TEXT("PostConfigInit"),
 	TEXT("PostSplashScreen"),
@@ -25,8 +24,8 @@ struct FModuleType
 	bool bForEditor;
 };
 
-const FModuleType GModuleTypes[] =
-{
+// clang-format off
+const FModuleType GModuleTypes[] = {
 	{ TEXT("Runtime"),                true },
 	{ TEXT("RuntimeNoCommandlet"),    true },
 	{ TEXT("RuntimeAndProgram"),      true },
@@ -42,6 +41,7 @@ const FModuleType GModuleTypes[] =
 	{ TEXT("ClientOnly"),             true },
 	{ TEXT("ClientOnlyNoCommandlet"), true },
 };
+// clang-format on
 
 void ReadLoadingPhase(FDescriptorReader& Reader, ELoadingPhase::Type& OutPhase)
 {

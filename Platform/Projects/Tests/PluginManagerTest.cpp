@@ -263,7 +263,8 @@ TEST_F(PluginManager, ModuleThatCannotBeLoadedIsAnErrorAndTheOthersGoOn)
 TEST_F(PluginManager, LibraryOfAnEnabledPluginIsFoundInItsBinaries)
 {
 	WritePlugin(TEXT("Tool/Tool.uplugin"));
-	Project.Write(TEXT("Plugins/Tool/Binaries/Linux/libKestrixEditor-ToolLibrary" KESTRIX_BUILD_SUFFIX ".so"), TEXT("no library"));
+	Project.Write(
+		TEXT("Plugins/Tool/Binaries/Linux/libKestrixEditor-ToolLibrary" KESTRIX_BUILD_SUFFIX ".so"), TEXT("no library"));
 	EXPECT_FALSE(FModuleManager::Get().ModuleExists(TEXT("ToolLibrary")));
 	Manager.RefreshPluginsList();
 	EXPECT_TRUE(FModuleManager::Get().ModuleExists(TEXT("ToolLibrary")));

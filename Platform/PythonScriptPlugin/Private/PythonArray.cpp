@@ -134,8 +134,8 @@ static PyObject* ArraySubscript(PyObject* Self, PyObject* Key)
 	{
 		return nullptr;
 	}
-	FPythonRef Result = PythonContainers::New(PythonContainers::TypeFor(FPythonContainer::From(Self).Type->Property),
-											  FPythonContainer::From(Self).Type);
+	FPythonRef Result = PythonContainers::New(
+		PythonContainers::TypeFor(FPythonContainer::From(Self).Type->Property), FPythonContainer::From(Self).Type);
 	return Result && PythonContainers::Refill(Result.Get(), Slice.Get()) ? Result.Release() : nullptr;
 }
 
@@ -234,7 +234,7 @@ static PyMethodDef MethodOfList(const ANSICHAR* Doc)
 
 static PyMethodDef GArrayMethods[] = {
 	{"cast", PythonContainers::Cast, METH_VARARGS | METH_CLASS,
-	 "cast($type, type, obj, /)\n--\n\nMakes an Array of a type of the items of an iterable."},
+		"cast($type, type, obj, /)\n--\n\nMakes an Array of a type of the items of an iterable."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the array."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the array."},
 	{"append", AppendToArray, METH_O, "append($self, value, /)\n--\n\nAdds a value at the end."},

@@ -98,8 +98,7 @@ static FString FindScript(const FString& FileName)
 	const FPythonRef FullName = Name ? FPythonInterpreter::CallBootstrap("find_script", Name.Get()) : FPythonRef();
 	if (FullName.Get() == Py_None)
 	{
-		PythonErrors::Raise(
-			PyExc_FileNotFoundError,
+		PythonErrors::Raise(PyExc_FileNotFoundError,
 			FString::Printf(TEXT("Python file '%s' is neither in the working folder nor on sys.path"), *FileName));
 		return FString();
 	}

@@ -13,8 +13,8 @@
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
-static TSharedPtr<const FPythonContainerType> Describe(const FProperty* Property, const FProperty* Element,
-													   const FProperty* Value)
+static TSharedPtr<const FPythonContainerType> Describe(
+	const FProperty* Property, const FProperty* Element, const FProperty* Value)
 {
 	const TSharedRef<FPythonContainerType> Type = MakeShared<FPythonContainerType>();
 	Type->Property = Property;
@@ -87,9 +87,12 @@ static FProperty* MakePropertyOf(PyObject* TypeObject)
 		return nullptr;
 	}
 	const TPair<PyTypeObject*, FProperty* (*)()> SimpleTypes[] = {
-		{&PyBool_Type, &MakeProperty<FBoolProperty>},		{&PyLong_Type, &MakeProperty<FIntProperty>},
-		{&PyFloat_Type, &MakeProperty<FDoubleProperty>},	{&PyUnicode_Type, &MakeProperty<FStrProperty>},
-		{PythonName::Type(), &MakeProperty<FNameProperty>}, {PythonText::Type(), &MakeProperty<FTextProperty>},
+		{&PyBool_Type, &MakeProperty<FBoolProperty>},
+		{&PyLong_Type, &MakeProperty<FIntProperty>},
+		{&PyFloat_Type, &MakeProperty<FDoubleProperty>},
+		{&PyUnicode_Type, &MakeProperty<FStrProperty>},
+		{PythonName::Type(), &MakeProperty<FNameProperty>},
+		{PythonText::Type(), &MakeProperty<FTextProperty>},
 	};
 	for (const auto& Simple : SimpleTypes)
 	{

@@ -117,7 +117,7 @@ static bool IsComparable(PyTypeObject* BuiltinType, PyObject* Other)
 {
 	const PyTypeObject* const OtherType = Py_TYPE(Other);
 	return PyObject_TypeCheck(Other, BuiltinType) || OtherType == GArrayType.GetType() || OtherType == GSetType.GetType() ||
-		   OtherType == GMapType.GetType();
+		OtherType == GMapType.GetType();
 }
 
 PyObject* PythonContainers::CompareAs(PyTypeObject* BuiltinType, PyObject* Self, PyObject* Other, int Operation)

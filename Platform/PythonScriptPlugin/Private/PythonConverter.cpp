@@ -7,7 +7,7 @@
 TUniquePtr<FPythonConverter> FPythonConverter::Make(const FProperty* Property)
 {
 	for (const auto MakeConverter :
-		 {&PythonConverters::MakeForValue, &PythonConverters::MakeForObject, &PythonConverters::MakeForContainer})
+		{&PythonConverters::MakeForValue, &PythonConverters::MakeForObject, &PythonConverters::MakeForContainer})
 	{
 		if (TUniquePtr<FPythonConverter> Converter = MakeConverter(Property))
 		{

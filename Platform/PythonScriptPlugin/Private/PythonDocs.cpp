@@ -55,8 +55,8 @@ private:
 	}
 };
 
-static FString JoinParameters(const FPythonFunction& Function,
-							  FString (*Write)(const FPythonFunction&, const FPythonFunction::FParameter&))
+static FString JoinParameters(
+	const FPythonFunction& Function, FString (*Write)(const FPythonFunction&, const FPythonFunction::FParameter&))
 {
 	TArray<FString> Parts;
 	for (const FPythonFunction::FParameter& Input : Function.GetInputs())
@@ -95,8 +95,8 @@ static FString DescribeArguments(const FPythonFunction& Function, const FFunctio
 	for (const FPythonFunction::FParameter& Input : Function.GetInputs())
 	{
 		const FString* const Description = Comment.Parameters.Find(Input.Property->GetName());
-		Text += FString::Printf(TEXT("\n    %s (%s): %s"), *Input.Name, *Input.Converter->AcceptedTypeName(),
-								Description ? **Description : TEXT(""));
+		Text += FString::Printf(
+			TEXT("\n    %s (%s): %s"), *Input.Name, *Input.Converter->AcceptedTypeName(), Description ? **Description : TEXT(""));
 	}
 	return Text.IsEmpty() ? Text : TEXT("\n\nArgs:") + Text;
 }
@@ -111,8 +111,8 @@ static FString DescribeResult(const FPythonFunction& Function, const FFunctionCo
 	for (const FPythonFunction::FParameter& Output : Function.GetOutputs())
 	{
 		const FString* const Description = Comment.Parameters.Find(Output.Property->GetName());
-		Text += FString::Printf(TEXT("\n\n    %s (%s): %s"), *Output.Name, *Output.Converter->TypeName(),
-								Description ? **Description : TEXT(""));
+		Text += FString::Printf(
+			TEXT("\n\n    %s (%s): %s"), *Output.Name, *Output.Converter->TypeName(), Description ? **Description : TEXT(""));
 	}
 	return Text;
 }
@@ -120,8 +120,8 @@ static FString DescribeResult(const FPythonFunction& Function, const FFunctionCo
 FString PythonDocs::Describe(const FPythonFunction& Function)
 {
 	const FFunctionComment Comment(Function.GetFunction()->GetToolTipText().ToString());
-	FString Text = FString::Printf(TEXT("X.%s(%s) -> %s"), *Function.GetName(), *JoinParameters(Function, &WritePlain),
-								   *Function.ResultTypeName());
+	FString Text = FString::Printf(
+		TEXT("X.%s(%s) -> %s"), *Function.GetName(), *JoinParameters(Function, &WritePlain), *Function.ResultTypeName());
 	if (!Comment.Summary.IsEmpty())
 	{
 		Text += TEXT("\n") + Comment.Summary;

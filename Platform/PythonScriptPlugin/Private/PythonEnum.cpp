@@ -45,8 +45,8 @@ static PyObject* EntryToInt(PyObject* Self)
 static PyObject* EntryToRepr(PyObject* Self)
 {
 	const FPythonEnumEntry& Entry = FPythonEnumEntry::From(Self);
-	return PyUnicode_FromFormat("<%s.%U: %lld>", _PyType_Name(Py_TYPE(Self)), Entry.Name.Get(),
-								static_cast<long long>(Entry.Value));
+	return PyUnicode_FromFormat(
+		"<%s.%U: %lld>", _PyType_Name(Py_TYPE(Self)), Entry.Name.Get(), static_cast<long long>(Entry.Value));
 }
 
 static Py_hash_t HashEntry(PyObject* Self)
@@ -77,8 +77,8 @@ static PyObject* CastToEntry(PyObject* Type, PyObject* Value)
 	int64 Number = 0;
 	if (!Enum || !PythonEnum::FromPython(Enum, Value, Number))
 	{
-		PythonErrors::RaiseUnexpectedType(Enum ? PythonNaming::NameOf(Enum) + TEXT(" or int") : TEXT("a type of an enumeration"),
-										  Value);
+		PythonErrors::RaiseUnexpectedType(
+			Enum ? PythonNaming::NameOf(Enum) + TEXT(" or int") : TEXT("a type of an enumeration"), Value);
 		return nullptr;
 	}
 	return PythonEnum::ToPython(Enum, Number).Release();

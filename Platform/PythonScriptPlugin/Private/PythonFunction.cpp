@@ -201,8 +201,9 @@ FString FPythonFunction::DescribeDefault(const FParameter& Input) const
 		const FPythonRef Fields = FPythonRef::Steal(PyObject_CallMethod(Value.Get(), "to_tuple", nullptr));
 		Value = Fields ? FPythonRef::Steal(PySequence_List(Fields.Get())) : FPythonRef();
 	}
-	const bool bIsLiteral = Value && (Value.Get() == Py_None || PyLong_Check(Value.Get()) || PyFloat_Check(Value.Get()) ||
-									  PyUnicode_Check(Value.Get()) || PyList_Check(Value.Get()));
+	const bool bIsLiteral = Value &&
+		(Value.Get() == Py_None || PyLong_Check(Value.Get()) || PyFloat_Check(Value.Get()) || PyUnicode_Check(Value.Get()) ||
+			PyList_Check(Value.Get()));
 	const FPythonRef Text = bIsLiteral ? FPythonRef::Steal(PyObject_Repr(Value.Get())) : FPythonRef();
 	PyErr_Clear();
 	return Text ? PythonStrings::FromStr(Text.Get()) : FString(TEXT("..."));
@@ -247,15 +248,15 @@ int32 FPythonFunction::FindInput(PyObject* Keyword) const
 	return INDEX_NONE;
 }
 
-bool FPythonFunction::SortArguments(PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords,
-									PyObject** OutValues) const
+bool FPythonFunction::SortArguments(
+	PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords, PyObject** OutValues) const
 {
 	const Py_ssize_t KeywordCount = Keywords ? PyTuple_GET_SIZE(Keywords) : 0;
 	if (PositionalCount + KeywordCount > Inputs.Num())
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("%s() takes at most %d argument%s (%d given)"), *Name,
-															 Inputs.Num(), Inputs.Num() == 1 ? TEXT("") : TEXT("s"),
-															 static_cast<int32>(PositionalCount + KeywordCount)));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s() takes at most %d argument%s (%d given)"), *Name, Inputs.Num(),
+				Inputs.Num() == 1 ? TEXT("") : TEXT("s"), static_cast<int32>(PositionalCount + KeywordCount)));
 		return false;
 	}
 	for (int32 Index = 0; Index < Inputs.Num(); ++Index)
@@ -268,14 +269,15 @@ bool FPythonFunction::SortArguments(PyObject* const* Arguments, Py_ssize_t Posit
 		const int32 Index = FindInput(Keyword);
 		if (Index == INDEX_NONE)
 		{
-			PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("'%s' is an invalid keyword argument for %s()"),
-																 *PythonStrings::FromStr(Keyword), *Name));
+			PythonErrors::Raise(PyExc_TypeError,
+				FString::Printf(TEXT("'%s' is an invalid keyword argument for %s()"), *PythonStrings::FromStr(Keyword), *Name));
 			return false;
 		}
 		if (OutValues[Index])
 		{
-			PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("argument for %s() given by name ('%s') and position (%d)"),
-																 *Name, *Inputs[Index].Name, Index + 1));
+			PythonErrors::Raise(PyExc_TypeError,
+				FString::Printf(
+					TEXT("argument for %s() given by name ('%s') and position (%d)"), *Name, *Inputs[Index].Name, Index + 1));
 			return false;
 		}
 		OutValues[Index] = Arguments[PositionalCount + Place];
@@ -295,14 +297,13 @@ bool FPythonFunction::ReadInputs(PyObject* const* Values, uint8* Block) const
 				continue;
 			}
 			PythonErrors::Prefix(FString::Printf(TEXT("%s.%s(): argument '%s' (pos %d)"),
-												 *PythonNaming::NameOf(Function->GetOwnerClass()), *Name, *Input.Name,
-												 Index + 1));
+				*PythonNaming::NameOf(Function->GetOwnerClass()), *Name, *Input.Name, Index + 1));
 			return false;
 		}
 		if (!Input.bHasDefault)
 		{
-			PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("%s() missing required argument '%s' (pos %d)"), *Name,
-																 *Input.Name, Index + 1));
+			PythonErrors::Raise(PyExc_TypeError,
+				FString::Printf(TEXT("%s() missing required argument '%s' (pos %d)"), *Name, *Input.Name, Index + 1));
 			return false;
 		}
 		Input.Property->CopyCompleteValue(Block + Input.Offset, Defaults + Input.Offset);

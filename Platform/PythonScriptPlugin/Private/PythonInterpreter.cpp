@@ -71,7 +71,7 @@ bool FPythonInterpreter::Start()
 	if (PyStatus_Exception(Status))
 	{
 		UE_LOG(LogPython, Error, TEXT("Python could not start: %s"),
-			   UTF8_TO_TCHAR(Status.err_msg ? Status.err_msg : "unknown reason"));
+			UTF8_TO_TCHAR(Status.err_msg ? Status.err_msg : "unknown reason"));
 		return false;
 	}
 

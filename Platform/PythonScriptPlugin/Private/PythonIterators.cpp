@@ -100,8 +100,8 @@ static bool RegisterWalk(PyObject* Module, const ANSICHAR* Name, newfunc New, co
 bool PythonIterators::Register(PyObject* Module)
 {
 	return RegisterWalk(Module, "unreal.ObjectIterator", &NewObjectWalk,
-						"ObjectIterator(type=Object)\n--\n\nAll objects of a class and of those derived from it, without default "
-						"objects.") &&
-		   RegisterWalk(Module, "unreal.ClassIterator", &NewClassWalk,
-						"ClassIterator(type=Object)\n--\n\nA class and all that derive from it.");
+			   "ObjectIterator(type=Object)\n--\n\nAll objects of a class and of those derived from it, without default "
+			   "objects.") &&
+		RegisterWalk(Module, "unreal.ClassIterator", &NewClassWalk,
+			"ClassIterator(type=Object)\n--\n\nA class and all that derive from it.");
 }

@@ -240,7 +240,7 @@ static PyObject* MapToRepr(PyObject* Self)
 
 static PyMethodDef GMapMethods[] = {
 	{"cast", CastToMap, METH_VARARGS | METH_CLASS,
-	 "cast($type, key, value, obj, /)\n--\n\nMakes a Map of two types of a mapping."},
+		"cast($type, key, value, obj, /)\n--\n\nMakes a Map of two types of a mapping."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the map."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the map."},
 	{"keys", ListMap<&KeyAt>, METH_NOARGS, "keys($self, /)\n--\n\nThe keys as a list."},
@@ -248,10 +248,10 @@ static PyMethodDef GMapMethods[] = {
 	{"items", ListMap<&ItemAt>, METH_NOARGS, "items($self, /)\n--\n\nPairs of key and value as a list."},
 	{"get", GetFromMap, METH_VARARGS, "get($self, key, default=None, /)\n--\n\nThe value of a key, or the default."},
 	{"pop", PopFromMap, METH_VARARGS,
-	 "pop($self, key, default, /)\n--\n\nRemoves a key and gives its value; KeyError without key and default."},
+		"pop($self, key, default, /)\n--\n\nRemoves a key and gives its value; KeyError without key and default."},
 	{"clear", ClearMap, METH_NOARGS, "clear($self, /)\n--\n\nRemoves all keys."},
 	{"update", PythonKeywordFunction(UpdateMap), METH_VARARGS | METH_KEYWORDS,
-	 "update($self, mapping=(), /, **kwargs)\n--\n\nAdds the pairs of a mapping."},
+		"update($self, mapping=(), /, **kwargs)\n--\n\nAdds the pairs of a mapping."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

@@ -28,8 +28,9 @@ static PyObject* CallMember(PyObject* Self, PyObject* const* Arguments, size_t C
 	const Py_ssize_t Count = PyVectorcall_NARGS(CountAndFlags);
 	if (Count == 0 || !PyObject_TypeCheck(Arguments[0], Method.Owner))
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"),
-															 *Method.Function->GetName(), UTF8_TO_TCHAR(Method.Owner->tp_name)));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"), *Method.Function->GetName(),
+				UTF8_TO_TCHAR(Method.Owner->tp_name)));
 		return nullptr;
 	}
 	UObject* const Target = FPythonInterpreter::CheckMainThread() ? PythonObjects::FromWrapper(Arguments[0]) : nullptr;
@@ -93,8 +94,10 @@ static PyMemberDef GMethodMembers[] = {
 };
 
 static PyGetSetDef GMethodGetters[] = {
-	{"__name__", MethodName, nullptr, nullptr, nullptr}, {"__qualname__", MethodQualifiedName, nullptr, nullptr, nullptr},
-	{"__doc__", MethodDoc, nullptr, nullptr, nullptr},	 {"__text_signature__", MethodSignature, nullptr, nullptr, nullptr},
+	{"__name__", MethodName, nullptr, nullptr, nullptr},
+	{"__qualname__", MethodQualifiedName, nullptr, nullptr, nullptr},
+	{"__doc__", MethodDoc, nullptr, nullptr, nullptr},
+	{"__text_signature__", MethodSignature, nullptr, nullptr, nullptr},
 	{nullptr, nullptr, nullptr, nullptr, nullptr},
 };
 
@@ -125,7 +128,7 @@ static PyTypeObject* MethodType(bool bStatic)
 bool PythonMethods::IsExposed(const UFunction* Function)
 {
 	return Function->HasAnyFunctionFlags(FUNC_BlueprintCallable | FUNC_BlueprintEvent) &&
-		   !Function->HasMetaData(TEXT("BlueprintInternalUseOnly"));
+		!Function->HasMetaData(TEXT("BlueprintInternalUseOnly"));
 }
 
 static FString DeprecationOf(const UFunction* Function)

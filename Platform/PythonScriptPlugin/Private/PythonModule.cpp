@@ -32,9 +32,17 @@ static FPythonGlobalRef GModule;
 using FRegister = bool (*)(PyObject* Module);
 
 static const FRegister GParts[] = {
-	&PythonModuleFunctions::Register, &PythonSlateTicks::Register, &PythonName::Register,		&PythonText::Register,
-	&PythonContainers::Register,	  &PythonEnum::RegisterBase,   &PythonStruct::RegisterBase, &PythonObjects::RegisterBase,
-	&PythonIterators::Register,		  &PythonSlowTask::Register,   &PythonTypeTable::Update,
+	&PythonModuleFunctions::Register,
+	&PythonSlateTicks::Register,
+	&PythonName::Register,
+	&PythonText::Register,
+	&PythonContainers::Register,
+	&PythonEnum::RegisterBase,
+	&PythonStruct::RegisterBase,
+	&PythonObjects::RegisterBase,
+	&PythonIterators::Register,
+	&PythonSlowTask::Register,
+	&PythonTypeTable::Update,
 };
 
 bool PythonModule::Create()
@@ -53,8 +61,8 @@ bool PythonModule::Create()
 	}
 	PyObject* const Modules = PySys_GetObject("modules");
 	return PyDict_SetItemString(Modules, "unreal", GModule.Get()) == 0 &&
-		   PyDict_SetItemString(FPythonInterpreter::ConsoleGlobals(), "unreal", GModule.Get()) == 0 &&
-		   FPythonInterpreter::CallBootstrap("register_collections", GModule.Get());
+		PyDict_SetItemString(FPythonInterpreter::ConsoleGlobals(), "unreal", GModule.Get()) == 0 &&
+		FPythonInterpreter::CallBootstrap("register_collections", GModule.Get());
 }
 
 void PythonModule::Update()

@@ -45,9 +45,9 @@ struct FObjectQuery
 		PyObject* TypeValue = nullptr;
 		int bFollowRedirectors = 1;
 		return FPythonInterpreter::CheckMainThread() &&
-			   PyArg_ParseTupleAndKeywords(Arguments, Keywords, Format, const_cast<char**>(Names), &OuterValue, &NameValue,
-										   &TypeValue, &bFollowRedirectors) &&
-			   ReadOuter(OuterValue) && ReadName(NameValue) && ReadType(TypeValue);
+			PyArg_ParseTupleAndKeywords(Arguments, Keywords, Format, const_cast<char**>(Names), &OuterValue, &NameValue,
+				&TypeValue, &bFollowRedirectors) &&
+			ReadOuter(OuterValue) && ReadName(NameValue) && ReadType(TypeValue);
 	}
 
 private:
@@ -86,8 +86,8 @@ static FPythonRef WarnIfMissing(UObject* Object, const FObjectQuery& Query)
 {
 	if (!Object)
 	{
-		PythonLog::Write(EPythonLogOutputType::Warning,
-						 FString::Printf(TEXT("%s '%s' was not found"), *Query.Class->GetName(), *Query.Name));
+		PythonLog::Write(
+			EPythonLogOutputType::Warning, FString::Printf(TEXT("%s '%s' was not found"), *Query.Class->GetName(), *Query.Name));
 	}
 	return PythonObjects::ToPython(Object);
 }
@@ -120,8 +120,8 @@ static PyObject* NewObjectOfClass(PyObject*, PyObject* Arguments, PyObject* Keyw
 	PyObject* OuterValue = Py_None;
 	PyObject* NameValue = nullptr;
 	if (!FPythonInterpreter::CheckMainThread() ||
-		!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "O|OO:new_object", const_cast<char**>(Names), &Type, &OuterValue,
-									 &NameValue))
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "O|OO:new_object", const_cast<char**>(Names), &Type, &OuterValue, &NameValue))
 	{
 		return nullptr;
 	}
@@ -169,8 +169,8 @@ static PyObject* PurgeObjectReferences(PyObject*, PyObject* Arguments, PyObject*
 	PyObject* Wrapper = nullptr;
 	int bIncludeInners = 1;
 	if (!FPythonInterpreter::CheckMainThread() ||
-		!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "O|p:purge_object_references", const_cast<char**>(Names), &Wrapper,
-									 &bIncludeInners))
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "O|p:purge_object_references", const_cast<char**>(Names), &Wrapper, &bIncludeInners))
 	{
 		return nullptr;
 	}
@@ -196,26 +196,29 @@ static PyObject* GetInterpreterExecutablePath(PyObject*, PyObject*)
 static PyMethodDef GFunctions[] = {
 	{"log", WriteToLog<EPythonLogOutputType::Info>, METH_O, "log(arg, /)\n--\n\nWrites to LogPython."},
 	{"log_warning", WriteToLog<EPythonLogOutputType::Warning>, METH_O,
-	 "log_warning(arg, /)\n--\n\nWrites a Warning to LogPython."},
+		"log_warning(arg, /)\n--\n\nWrites a Warning to LogPython."},
 	{"log_error", WriteToLog<EPythonLogOutputType::Error>, METH_O, "log_error(arg, /)\n--\n\nWrites an Error to LogPython."},
 	{"log_flush", FlushLog, METH_NOARGS, "log_flush()\n--\n\nShows unfinished lines and writes the log to disk."},
 	{"find_object", PythonKeywordFunction(FindObjectByName), METH_VARARGS | METH_KEYWORDS,
-	 "find_object(outer, name, type=Object, follow_redirectors=True)\n--\n\nAn object in memory; None, with a Warning, if there "
-	 "is none."},
+		"find_object(outer, name, type=Object, follow_redirectors=True)\n--\n\nAn object in memory; None, with a Warning, if "
+		"there "
+		"is none."},
 	{"load_object", PythonKeywordFunction(LoadObjectByName), METH_VARARGS | METH_KEYWORDS,
-	 "load_object(outer, name, type=Object, follow_redirectors=True)\n--\n\nAn object, loaded if need be; None, with a Warning, "
-	 "if there is none."},
+		"load_object(outer, name, type=Object, follow_redirectors=True)\n--\n\nAn object, loaded if need be; None, with a "
+		"Warning, "
+		"if there is none."},
 	{"new_object", PythonKeywordFunction(NewObjectOfClass), METH_VARARGS | METH_KEYWORDS,
-	 "new_object(type, outer=None, name='None')\n--\n\nMakes an object."},
+		"new_object(type, outer=None, name='None')\n--\n\nMakes an object."},
 	{"get_default_object", GetDefaultObjectOfClass, METH_O,
-	 "get_default_object(type, /)\n--\n\nThe object that holds the first values of a class."},
+		"get_default_object(type, /)\n--\n\nThe object that holds the first values of a class."},
 	{"get_type_from_class", GetTypeFromClass, METH_O,
-	 "get_type_from_class(class_, /)\n--\n\nThe Python type of objects of a class."},
+		"get_type_from_class(class_, /)\n--\n\nThe Python type of objects of a class."},
 	{"purge_object_references", PythonKeywordFunction(PurgeObjectReferences), METH_VARARGS | METH_KEYWORDS,
-	 "purge_object_references(object, include_inners=True)\n--\n\nLets go of an object, so that it can be collected; its wrapper "
-	 "cannot be used any more."},
+		"purge_object_references(object, include_inners=True)\n--\n\nLets go of an object, so that it can be collected; its "
+		"wrapper "
+		"cannot be used any more."},
 	{"get_interpreter_executable_path", GetInterpreterExecutablePath, METH_NOARGS,
-	 "get_interpreter_executable_path()\n--\n\nA Python executable of the same version, for subprocesses."},
+		"get_interpreter_executable_path()\n--\n\nA Python executable of the same version, for subprocesses."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

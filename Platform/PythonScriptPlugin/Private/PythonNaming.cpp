@@ -5,14 +5,16 @@
 
 namespace PythonNaming
 {
+// clang-format off
 static const TCHAR* const GReservedWords[] = {
-	TEXT("False"),	TEXT("None"),	  TEXT("True"),	 TEXT("and"),	 TEXT("as"),	   TEXT("assert"),
-	TEXT("async"),	TEXT("await"),	  TEXT("break"), TEXT("class"),	 TEXT("continue"), TEXT("def"),
-	TEXT("del"),	TEXT("elif"),	  TEXT("else"),	 TEXT("except"), TEXT("finally"),  TEXT("for"),
-	TEXT("from"),	TEXT("global"),	  TEXT("if"),	 TEXT("import"), TEXT("in"),	   TEXT("is"),
-	TEXT("lambda"), TEXT("nonlocal"), TEXT("not"),	 TEXT("or"),	 TEXT("pass"),	   TEXT("property"),
-	TEXT("raise"),	TEXT("return"),	  TEXT("try"),	 TEXT("while"),	 TEXT("with"),	   TEXT("yield"),
+	TEXT("False"),  TEXT("None"),     TEXT("True"),  TEXT("and"),    TEXT("as"),       TEXT("assert"),
+	TEXT("async"),  TEXT("await"),    TEXT("break"), TEXT("class"),  TEXT("continue"), TEXT("def"),
+	TEXT("del"),    TEXT("elif"),     TEXT("else"),  TEXT("except"), TEXT("finally"),  TEXT("for"),
+	TEXT("from"),   TEXT("global"),   TEXT("if"),    TEXT("import"), TEXT("in"),       TEXT("is"),
+	TEXT("lambda"), TEXT("nonlocal"), TEXT("not"),   TEXT("or"),     TEXT("pass"),     TEXT("property"),
+	TEXT("raise"),  TEXT("return"),   TEXT("try"),   TEXT("while"),  TEXT("with"),     TEXT("yield"),
 };
+// clang-format on
 
 static bool IsLower(TCHAR Character)
 {

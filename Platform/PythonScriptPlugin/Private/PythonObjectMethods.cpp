@@ -92,8 +92,9 @@ static PyObject* CastObject(PyObject* Type, PyObject* Value)
 	UObject* const Object = ObjectOf(Value);
 	if (Object && Class && !Object->IsA(Class))
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("Cannot cast type '%s' to '%s'"),
-															 *PythonStrings::TypeNameOf(Value), *PythonNaming::NameOf(Class)));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(
+				TEXT("Cannot cast type '%s' to '%s'"), *PythonStrings::TypeNameOf(Value), *PythonNaming::NameOf(Class)));
 		return nullptr;
 	}
 	return Object ? FPythonRef::Borrow(Value).Release() : nullptr;
@@ -170,15 +171,16 @@ UObject* PythonObjectMethods::MakeObject(UClass* Class, UObject* Outer, FName Na
 {
 	if (!Class || Class->HasAnyClassFlags(CLASS_Abstract))
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("the class '%s' is abstract"),
-															 Class ? *PythonNaming::NameOf(Class) : TEXT("_ObjectBase")));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("the class '%s' is abstract"), Class ? *PythonNaming::NameOf(Class) : TEXT("_ObjectBase")));
 		return nullptr;
 	}
 	const UObject* const Taken = ObjectAt(Outer, Name);
 	if (Taken && Taken->GetClass() != Class)
 	{
-		PythonErrors::Raise(PyExc_ValueError, FString::Printf(TEXT("'%s' is an object of another class, %s"),
-															  *Taken->GetPathName(), *Taken->GetClass()->GetName()));
+		PythonErrors::Raise(PyExc_ValueError,
+			FString::Printf(
+				TEXT("'%s' is an object of another class, %s"), *Taken->GetPathName(), *Taken->GetClass()->GetName()));
 		return nullptr;
 	}
 	return NewObject<UObject>(Outer, Class, Name);
@@ -213,9 +215,9 @@ public:
 		}
 		if (!Property->IsEditable())
 		{
-			PythonErrors::Raise(PyExc_Exception, FString::Printf(TEXT("%s: Property '%s' on '%s' is read-only and cannot be set"),
-																 *Object->GetClass()->GetName(), *Property->GetName(),
-																 *Object->GetClass()->GetName()));
+			PythonErrors::Raise(PyExc_Exception,
+				FString::Printf(TEXT("%s: Property '%s' on '%s' is read-only and cannot be set"), *Object->GetClass()->GetName(),
+					*Property->GetName(), *Object->GetClass()->GetName()));
 			return nullptr;
 		}
 		TUniquePtr<FPropertyChange> Change = MakeUnique<FPropertyChange>(Property->GetProperty());
@@ -269,8 +271,8 @@ static PyObject* SetEditorProperty(PyObject* Self, PyObject* Arguments, PyObject
 	bool bNotify = true;
 	UObject* const Object = ObjectOf(Self);
 	if (!Object ||
-		!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "OO|O:set_editor_property", const_cast<char**>(Names), &Name, &Value,
-									 &NotifyMode) ||
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "OO|O:set_editor_property", const_cast<char**>(Names), &Name, &Value, &NotifyMode) ||
 		(NotifyMode && !ReadNotifyMode(NotifyMode, bNotify)))
 	{
 		return nullptr;
@@ -333,8 +335,9 @@ static PyObject* CallMethod(PyObject* Self, PyObject* Arguments, PyObject* Keywo
 	PyObject* CallArguments = nullptr;
 	PyObject* CallKeywords = nullptr;
 	UObject* const Object = ObjectOf(Self);
-	if (!Object || !PyArg_ParseTupleAndKeywords(Arguments, Keywords, "O|O!O!:call_method", const_cast<char**>(Names), &Name,
-												&PyTuple_Type, &CallArguments, &PyDict_Type, &CallKeywords))
+	if (!Object ||
+		!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "O|O!O!:call_method", const_cast<char**>(Names), &Name, &PyTuple_Type,
+			&CallArguments, &PyDict_Type, &CallKeywords))
 	{
 		return nullptr;
 	}
@@ -343,15 +346,15 @@ static PyObject* CallMethod(PyObject* Self, PyObject* Arguments, PyObject* Keywo
 	if (!Function)
 	{
 		PythonErrors::Raise(PyExc_Exception,
-							FString::Printf(TEXT("%s: Failed to find function '%s' on '%s'"), *Object->GetClass()->GetName(),
-											*PythonStrings::Describe(Name), *Object->GetClass()->GetName()));
+			FString::Printf(TEXT("%s: Failed to find function '%s' on '%s'"), *Object->GetClass()->GetName(),
+				*PythonStrings::Describe(Name), *Object->GetClass()->GetName()));
 		return nullptr;
 	}
 	const TUniquePtr<FPythonFunction> Binding = FPythonFunction::Make(Function, Function->GetName(), FString());
 	if (!Binding)
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("%s() has a parameter of a kind that Python cannot carry"),
-															 *Function->GetName()));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s() has a parameter of a kind that Python cannot carry"), *Function->GetName()));
 		return nullptr;
 	}
 	const FPythonRef NoArguments = FPythonRef::Steal(PyTuple_New(0));
@@ -360,33 +363,33 @@ static PyObject* CallMethod(PyObject* Self, PyObject* Arguments, PyObject* Keywo
 
 static PyMethodDef GObjectMethods[] = {
 	{"cast", CastObject, METH_O | METH_CLASS,
-	 "cast($type, object, /)\n--\n\nThe object, if it is of this class; TypeError otherwise."},
+		"cast($type, object, /)\n--\n\nThe object, if it is of this class; TypeError otherwise."},
 	{"static_class", StaticClassOf, METH_NOARGS | METH_CLASS, "static_class($type, /)\n--\n\nThe engine's object of the class."},
 	{"get_default_object", GetDefaultObjectOf, METH_NOARGS | METH_CLASS,
-	 "get_default_object($type, /)\n--\n\nThe object that holds the first values of the class."},
+		"get_default_object($type, /)\n--\n\nThe object that holds the first values of the class."},
 	{"get_class", Tell<&TellClass>, METH_NOARGS, "get_class($self, /)\n--\n\nThe class of the object."},
 	{"get_name", Tell<&TellName>, METH_NOARGS, "get_name($self, /)\n--\n\nName of the object as str."},
 	{"get_fname", Tell<&TellFName>, METH_NOARGS, "get_fname($self, /)\n--\n\nName of the object as Name."},
 	{"get_path_name", Tell<&TellPathName>, METH_NOARGS,
-	 "get_path_name($self, /)\n--\n\nPath of the object, such as /Game/Dir/A.A."},
+		"get_path_name($self, /)\n--\n\nPath of the object, such as /Game/Dir/A.A."},
 	{"get_full_name", Tell<&TellFullName>, METH_NOARGS, "get_full_name($self, /)\n--\n\nClass and path of the object."},
 	{"get_outer", Tell<&TellOuter>, METH_NOARGS, "get_outer($self, /)\n--\n\nThe object that this one lies in, or None."},
 	{"get_outermost", Tell<&TellOutermost>, METH_NOARGS, "get_outermost($self, /)\n--\n\nThe package of the object."},
 	{"get_typed_outer", GetTypedOuter, METH_O, "get_typed_outer($self, type, /)\n--\n\nThe nearest outer of a class, or None."},
 	{"get_world", Tell<&TellWorld>, METH_NOARGS, "get_world($self, /)\n--\n\nThe world that the object lives in, or None."},
 	{"modify", ModifyObject, METH_VARARGS,
-	 "modify($self, always_mark_dirty=True, /)\n--\n\nSays that the object is about to change; True if a transaction recorded "
-	 "it."},
+		"modify($self, always_mark_dirty=True, /)\n--\n\nSays that the object is about to change; True if a transaction recorded "
+		"it."},
 	{"rename", PythonKeywordFunction(RenameObject), METH_VARARGS | METH_KEYWORDS,
-	 "rename($self, name=None, outer=None)\n--\n\nGives the object another name, another outer or both."},
+		"rename($self, name=None, outer=None)\n--\n\nGives the object another name, another outer or both."},
 	{"call_method", PythonKeywordFunction(CallMethod), METH_VARARGS | METH_KEYWORDS,
-	 "call_method($self, name, args=(), kwargs={})\n--\n\nCalls a reflected function by its C++ name."},
+		"call_method($self, name, args=(), kwargs={})\n--\n\nCalls a reflected function by its C++ name."},
 	{"get_editor_property", PythonKeywordFunction(GetEditorProperty), METH_VARARGS | METH_KEYWORDS,
-	 "get_editor_property($self, name)\n--\n\nThe value of an editable or script-visible property."},
+		"get_editor_property($self, name)\n--\n\nThe value of an editable or script-visible property."},
 	{"set_editor_property", PythonKeywordFunction(SetEditorProperty), METH_VARARGS | METH_KEYWORDS,
-	 "set_editor_property($self, name, value, notify_mode=None)\n--\n\nSets a property as an edit in the editor does."},
+		"set_editor_property($self, name, value, notify_mode=None)\n--\n\nSets a property as an edit in the editor does."},
 	{"set_editor_properties", SetEditorProperties, METH_O,
-	 "set_editor_properties($self, properties, /)\n--\n\nSets the properties that a mapping names, all or none."},
+		"set_editor_properties($self, properties, /)\n--\n\nSets the properties that a mapping names, all or none."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

@@ -168,7 +168,7 @@ static bool ReadOuter(PyObject* Value, UObject*& OutOuter)
 static bool ReadObjectName(PyObject* Value, FName& OutName)
 {
 	return !Value || PythonName::FromPython(Value, OutName) ||
-		   PythonErrors::RaiseUnexpectedType(TEXT("Name or str as name"), Value);
+		PythonErrors::RaiseUnexpectedType(TEXT("Name or str as name"), Value);
 }
 
 /** unreal.SomeClass(outer=None, name='None') makes an object. */
@@ -209,7 +209,7 @@ static PyObject* WrapperToRepr(PyObject* Self)
 		return PyUnicode_FromFormat("<Destroyed object of type '%s'>", Py_TYPE(Self)->tp_name);
 	}
 	const FString Text = FString::Printf(TEXT("<Object '%s' (%p) Class '%s'>"), *Object->GetPathName(),
-										 static_cast<void*>(Object), *Object->GetClass()->GetName());
+		static_cast<void*>(Object), *Object->GetClass()->GetName());
 	return PythonStrings::ToPython(Text).Release();
 }
 

@@ -64,7 +64,7 @@ bool FPythonProperty::Set(void* Container, PyObject* Value) const
 bool FPythonProperty::IsExposed(const FProperty* Property)
 {
 	return Property->HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible) && Property->ArrayDim == 1 &&
-		   FPythonConverter::Make(Property);
+		FPythonConverter::Make(Property);
 }
 
 static TArray<const UStruct*> WithParents(const UStruct* Struct)
@@ -140,8 +140,9 @@ const FPythonProperty* PythonProperty::FindOrRaise(const FPythonPropertyTable& T
 	const FPythonProperty* const Property = Table.Find(Text);
 	if (!Property)
 	{
-		PythonErrors::Raise(PyExc_Exception, FString::Printf(TEXT("%s: Failed to find property '%s' for attribute '%s' on '%s'"),
-															 *Struct->GetName(), *Text, *Text, *Struct->GetName()));
+		PythonErrors::Raise(PyExc_Exception,
+			FString::Printf(TEXT("%s: Failed to find property '%s' for attribute '%s' on '%s'"), *Struct->GetName(), *Text, *Text,
+				*Struct->GetName()));
 	}
 	return Property;
 }
@@ -183,9 +184,8 @@ static int SetAttribute(PyObject* Self, PyObject* Instance, PyObject* Value)
 	if (!Value || !Attribute.Property->IsAttributeWritable())
 	{
 		PythonErrors::Raise(PyExc_AttributeError,
-							FString::Printf(TEXT("attribute '%s' of '%s' %s"), *Attribute.Property->GetName(),
-											*PythonStrings::TypeNameOf(Instance),
-											Value ? TEXT("is read-only") : TEXT("cannot be deleted")));
+			FString::Printf(TEXT("attribute '%s' of '%s' %s"), *Attribute.Property->GetName(),
+				*PythonStrings::TypeNameOf(Instance), Value ? TEXT("is read-only") : TEXT("cannot be deleted")));
 		return -1;
 	}
 	void* const Container = Attribute.ContainerOf(Instance);
@@ -225,8 +225,8 @@ static PyTypeObject* AttributeType()
 static FString DescribeProperty(const FPythonProperty& Property)
 {
 	return FString::Printf(TEXT("(%s): [%s] %s"), *Property.GetConverter().TypeName(),
-						   Property.IsAttributeWritable() ? TEXT("Read-Write") : TEXT("Read-Only"),
-						   *Property.GetProperty()->GetToolTipText().ToString());
+		Property.IsAttributeWritable() ? TEXT("Read-Write") : TEXT("Read-Only"),
+		*Property.GetProperty()->GetToolTipText().ToString());
 }
 
 bool PythonProperty::AddAttributes(PyTypeObject* Type, const UStruct* Struct)

@@ -16,9 +16,8 @@ bool UPythonScriptLibrary::ExecutePythonCommand(const FString& PythonCommand)
 }
 
 bool UPythonScriptLibrary::ExecutePythonCommandEx(const FString& PythonCommand, FString& CommandResult,
-												  TArray<FPythonLogOutputEntry>& LogOutput,
-												  EPythonCommandExecutionMode ExecutionMode,
-												  EPythonFileExecutionScope FileExecutionScope)
+	TArray<FPythonLogOutputEntry>& LogOutput, EPythonCommandExecutionMode ExecutionMode,
+	EPythonFileExecutionScope FileExecutionScope)
 {
 	IPythonScriptPlugin* const Python = IPythonScriptPlugin::Get();
 	if (!Python)

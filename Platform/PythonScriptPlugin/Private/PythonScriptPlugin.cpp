@@ -90,7 +90,7 @@ void FPythonScriptPlugin::FinishStartup()
 	PythonInitialized.Broadcast();
 	bool bDeveloperMode = false;
 	GConfig->GetBool(TEXT("/Script/PythonScriptPlugin.PythonScriptPluginUserSettings"), TEXT("bDeveloperMode"), bDeveloperMode,
-					 GEditorPerProjectIni);
+		GEditorPerProjectIni);
 	if (bDeveloperMode)
 	{
 		PythonStubWriter::Write(FPaths::Combine(FPaths::ProjectDir(), TEXT("Intermediate/PythonStub")));

@@ -230,7 +230,7 @@ static PyObject* SetToRepr(PyObject* Self)
 
 static PyMethodDef GSetMethods[] = {
 	{"cast", PythonContainers::Cast, METH_VARARGS | METH_CLASS,
-	 "cast($type, type, obj, /)\n--\n\nMakes a Set of a type of the items of an iterable."},
+		"cast($type, type, obj, /)\n--\n\nMakes a Set of a type of the items of an iterable."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the set."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the set."},
 	{"add", AddToSet, METH_O, "add($self, value, /)\n--\n\nAdds a value."},
@@ -243,13 +243,13 @@ static PyMethodDef GSetMethods[] = {
 	{"intersection", CombineAsSet<GIntersection>, METH_VARARGS, "intersection($self, *others)\n--\n\nThe values that all have."},
 	{"difference", CombineAsSet<GDifference>, METH_VARARGS, "difference($self, *others)\n--\n\nThe values that no other has."},
 	{"symmetric_difference", CombineAsSet<GSymmetricDifference>, METH_VARARGS,
-	 "symmetric_difference($self, other, /)\n--\n\nThe values that one of both has."},
+		"symmetric_difference($self, other, /)\n--\n\nThe values that one of both has."},
 	{"issubset", TellAsSet<GIsSubset>, METH_VARARGS,
-	 "issubset($self, other, /)\n--\n\nWhether the other has all values of this."},
+		"issubset($self, other, /)\n--\n\nWhether the other has all values of this."},
 	{"issuperset", TellAsSet<GIsSuperset>, METH_VARARGS,
-	 "issuperset($self, other, /)\n--\n\nWhether this has all values of the other."},
+		"issuperset($self, other, /)\n--\n\nWhether this has all values of the other."},
 	{"isdisjoint", TellAsSet<GIsDisjoint>, METH_VARARGS,
-	 "isdisjoint($self, other, /)\n--\n\nWhether both have no value in common."},
+		"isdisjoint($self, other, /)\n--\n\nWhether both have no value in common."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

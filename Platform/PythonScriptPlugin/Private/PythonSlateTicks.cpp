@@ -179,13 +179,13 @@ static PyObject* UnregisterCallback(PyObject*, PyObject* Handle)
 
 static PyMethodDef GTickFunctions[] = {
 	{"register_slate_pre_tick_callback", RegisterCallback<GPreTickCallbacks>, METH_O,
-	 "register_slate_pre_tick_callback(callable, /)\n--\n\nCalls callable(delta_seconds) before each frame. Gives a handle."},
+		"register_slate_pre_tick_callback(callable, /)\n--\n\nCalls callable(delta_seconds) before each frame. Gives a handle."},
 	{"unregister_slate_pre_tick_callback", UnregisterCallback<GPreTickCallbacks>, METH_O,
-	 "unregister_slate_pre_tick_callback(handle, /)\n--\n\nEnds the calls of a callback."},
+		"unregister_slate_pre_tick_callback(handle, /)\n--\n\nEnds the calls of a callback."},
 	{"register_slate_post_tick_callback", RegisterCallback<GPostTickCallbacks>, METH_O,
-	 "register_slate_post_tick_callback(callable, /)\n--\n\nCalls callable(delta_seconds) after each frame. Gives a handle."},
+		"register_slate_post_tick_callback(callable, /)\n--\n\nCalls callable(delta_seconds) after each frame. Gives a handle."},
 	{"unregister_slate_post_tick_callback", UnregisterCallback<GPostTickCallbacks>, METH_O,
-	 "unregister_slate_post_tick_callback(handle, /)\n--\n\nEnds the calls of a callback."},
+		"unregister_slate_post_tick_callback(handle, /)\n--\n\nEnds the calls of a callback."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

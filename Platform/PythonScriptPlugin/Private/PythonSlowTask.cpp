@@ -20,8 +20,8 @@ static PyObject* NewTask(PyTypeObject* Type, PyObject* Arguments, PyObject* Keyw
 	FPythonSlowTask Task;
 	PyObject* Description = nullptr;
 	int bEnabled = 1;
-	if (!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "d|Op:ScopedSlowTask", const_cast<char**>(Names), &Task.TotalWork,
-									 &Description, &bEnabled))
+	if (!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "d|Op:ScopedSlowTask", const_cast<char**>(Names), &Task.TotalWork, &Description, &bEnabled))
 	{
 		return nullptr;
 	}
@@ -55,8 +55,9 @@ static PyObject* MakeDialog(PyObject* Self, PyObject* Arguments, PyObject* Keywo
 	static const char* const Names[] = {"can_cancel", "allow_in_pie", nullptr};
 	int bCanCancel = 0;
 	int bAllowInPie = 0;
-	if (!CheckEntered(Self) || !PyArg_ParseTupleAndKeywords(Arguments, Keywords, "|pp:make_dialog", const_cast<char**>(Names),
-															&bCanCancel, &bAllowInPie))
+	if (!CheckEntered(Self) ||
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "|pp:make_dialog", const_cast<char**>(Names), &bCanCancel, &bAllowInPie))
 	{
 		return nullptr;
 	}
@@ -69,8 +70,9 @@ static PyObject* MakeDialogDelayed(PyObject* Self, PyObject* Arguments, PyObject
 	double Delay = 0.0;
 	int bCanCancel = 0;
 	int bAllowInPie = 0;
-	if (!CheckEntered(Self) || !PyArg_ParseTupleAndKeywords(Arguments, Keywords, "d|pp:make_dialog_delayed",
-															const_cast<char**>(Names), &Delay, &bCanCancel, &bAllowInPie))
+	if (!CheckEntered(Self) ||
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "d|pp:make_dialog_delayed", const_cast<char**>(Names), &Delay, &bCanCancel, &bAllowInPie))
 	{
 		return nullptr;
 	}
@@ -82,8 +84,9 @@ static PyObject* EnterProgressFrame(PyObject* Self, PyObject* Arguments, PyObjec
 	static const char* const Names[] = {"work", "desc", nullptr};
 	double Work = 1.0;
 	PyObject* Description = nullptr;
-	if (!CheckEntered(Self) || !PyArg_ParseTupleAndKeywords(Arguments, Keywords, "|dO:enter_progress_frame",
-															const_cast<char**>(Names), &Work, &Description))
+	if (!CheckEntered(Self) ||
+		!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "|dO:enter_progress_frame", const_cast<char**>(Names), &Work, &Description))
 	{
 		return nullptr;
 	}
@@ -101,12 +104,12 @@ static PyMethodDef GTaskMethods[] = {
 	{"__enter__", EnterTask, METH_NOARGS, nullptr},
 	{"__exit__", LeaveTask, METH_VARARGS, nullptr},
 	{"make_dialog", PythonKeywordFunction(MakeDialog), METH_VARARGS | METH_KEYWORDS,
-	 "make_dialog($self, can_cancel=False, allow_in_pie=False)\n--\n\nShows the progress, where there is somebody to see it."},
+		"make_dialog($self, can_cancel=False, allow_in_pie=False)\n--\n\nShows the progress, where there is somebody to see it."},
 	{"make_dialog_delayed", PythonKeywordFunction(MakeDialogDelayed), METH_VARARGS | METH_KEYWORDS,
-	 "make_dialog_delayed($self, delay, can_cancel=False, allow_in_pie=False)\n--\n\nShows the progress after a time in "
-	 "seconds."},
+		"make_dialog_delayed($self, delay, can_cancel=False, allow_in_pie=False)\n--\n\nShows the progress after a time in "
+		"seconds."},
 	{"enter_progress_frame", PythonKeywordFunction(EnterProgressFrame), METH_VARARGS | METH_KEYWORDS,
-	 "enter_progress_frame($self, work=1.0, desc='')\n--\n\nSays that a further part of the work begins."},
+		"enter_progress_frame($self, work=1.0, desc='')\n--\n\nSays that a further part of the work begins."},
 	{"should_cancel", ShouldCancel, METH_NOARGS, "should_cancel($self, /)\n--\n\nTrue once the user asked to stop."},
 	{nullptr, nullptr, 0, nullptr},
 };

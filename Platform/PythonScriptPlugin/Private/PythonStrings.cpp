@@ -25,8 +25,8 @@ FPythonRef ToPython(const TCHAR* Text, int32 Length)
 	}
 
 	int ByteOrder = -1;
-	return FPythonRef::Steal(PyUnicode_DecodeUTF16(reinterpret_cast<const char*>(Text),
-												   Length * static_cast<Py_ssize_t>(sizeof(TCHAR)), "surrogatepass", &ByteOrder));
+	return FPythonRef::Steal(PyUnicode_DecodeUTF16(
+		reinterpret_cast<const char*>(Text), Length * static_cast<Py_ssize_t>(sizeof(TCHAR)), "surrogatepass", &ByteOrder));
 }
 
 FPythonRef ToPython(const FString& Text)

@@ -73,8 +73,8 @@ FPythonRef PythonStruct::ToPython(UScriptStruct* Struct, const void* Value)
 	PyTypeObject* const Type = PythonTypeTable::TypeOf(Struct);
 	if (!Type)
 	{
-		PythonErrors::Raise(PyExc_TypeError,
-							FString::Printf(TEXT("Python does not know the structure '%s'"), *Struct->GetName()));
+		PythonErrors::Raise(
+			PyExc_TypeError, FString::Printf(TEXT("Python does not know the structure '%s'"), *Struct->GetName()));
 		return FPythonRef();
 	}
 	FPythonRef Result = NewValue(Type, Struct);
@@ -121,8 +121,9 @@ static bool SetFieldsInOrder(UScriptStruct* Struct, PyObject* Sequence, void* Me
 	const Py_ssize_t Count = PySequence_Size(Sequence);
 	if (Count > Table->GetAll().Num())
 	{
-		PythonErrors::Raise(PyExc_TypeError, FString::Printf(TEXT("%s has %d fields (%d given)"), *PythonNaming::NameOf(Struct),
-															 Table->GetAll().Num(), static_cast<int32>(Count)));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s has %d fields (%d given)"), *PythonNaming::NameOf(Struct), Table->GetAll().Num(),
+				static_cast<int32>(Count)));
 		return false;
 	}
 	for (Py_ssize_t Index = 0; Index < Count; ++Index)
@@ -249,8 +250,8 @@ static PyObject* SetStructProperty(PyObject* Self, PyObject* Arguments, PyObject
 	PyObject* Name = nullptr;
 	PyObject* NewFieldValue = nullptr;
 	PyObject* NotifyMode = nullptr;
-	if (!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "OO|O:set_editor_property", const_cast<char**>(Names), &Name,
-									 &NewFieldValue, &NotifyMode))
+	if (!PyArg_ParseTupleAndKeywords(
+			Arguments, Keywords, "OO|O:set_editor_property", const_cast<char**>(Names), &Name, &NewFieldValue, &NotifyMode))
 	{
 		return nullptr;
 	}
@@ -303,19 +304,19 @@ static PyObject* StructToRepr(PyObject* Self)
 
 static PyMethodDef GStructMethods[] = {
 	{"cast", CastToStruct, METH_O | METH_CLASS,
-	 "cast($type, value, /)\n--\n\nMakes a value of a structure, a mapping of fields or a sequence of fields."},
+		"cast($type, value, /)\n--\n\nMakes a value of a structure, a mapping of fields or a sequence of fields."},
 	{"static_struct", StaticStruct, METH_NOARGS | METH_CLASS,
-	 "static_struct($type, /)\n--\n\nThe engine's object of the structure."},
+		"static_struct($type, /)\n--\n\nThe engine's object of the structure."},
 	{"copy", CopyStruct, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the value."},
 	{"__copy__", CopyStruct, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the value."},
 	{"assign", AssignStruct, METH_O, "assign($self, value, /)\n--\n\nTakes over another value, whole or not at all."},
 	{"to_tuple", StructToTuple, METH_NOARGS, "to_tuple($self, /)\n--\n\nThe fields in declared order."},
 	{"get_editor_property", PythonKeywordFunction(GetStructProperty), METH_VARARGS | METH_KEYWORDS,
-	 "get_editor_property($self, name)\n--\n\nThe value of an editable or script-visible field."},
+		"get_editor_property($self, name)\n--\n\nThe value of an editable or script-visible field."},
 	{"set_editor_property", PythonKeywordFunction(SetStructProperty), METH_VARARGS | METH_KEYWORDS,
-	 "set_editor_property($self, name, value, notify_mode=None)\n--\n\nSets an editable or script-visible field."},
+		"set_editor_property($self, name, value, notify_mode=None)\n--\n\nSets an editable or script-visible field."},
 	{"set_editor_properties", SetStructProperties, METH_O,
-	 "set_editor_properties($self, properties, /)\n--\n\nSets the fields that a mapping names, all or none."},
+		"set_editor_properties($self, properties, /)\n--\n\nSets the fields that a mapping names, all or none."},
 	{nullptr, nullptr, 0, nullptr},
 };
 
@@ -338,14 +339,14 @@ FPythonRef PythonStruct::MakeType(UScriptStruct* Struct, PyTypeObject* ParentTyp
 	if (static_cast<SIZE_T>(Struct->GetMinAlignment()) > MaxAlignment)
 	{
 		PythonErrors::Raise(PyExc_TypeError,
-							FString::Printf(TEXT("the structure '%s' is aligned to %d bytes, more than Python gives"),
-											*Struct->GetName(), Struct->GetMinAlignment()));
+			FString::Printf(TEXT("the structure '%s' is aligned to %d bytes, more than Python gives"), *Struct->GetName(),
+				Struct->GetMinAlignment()));
 		return FPythonRef();
 	}
 	const TArray<ANSICHAR> Name = PythonStrings::ToUtf8(TEXT("unreal.") + PythonNaming::NameOf(Struct));
 	const TArray<ANSICHAR> Doc = PythonStrings::ToUtf8(Struct->GetToolTipText().ToString());
-	return FPythonTypeSpec(Name.GetData(), MemoryOffset + Align(Struct->GetStructureSize(), static_cast<int32>(sizeof(void*))),
-						   Py_TPFLAGS_BASETYPE)
+	return FPythonTypeSpec(
+		Name.GetData(), MemoryOffset + Align(Struct->GetStructureSize(), static_cast<int32>(sizeof(void*))), Py_TPFLAGS_BASETYPE)
 		.Base(ParentType ? ParentType : GStructBaseType.GetType())
 		.Doc(Doc.GetData())
 		.Make();

@@ -28,9 +28,9 @@ static FString DescribeMethod(const FPythonFunction& Function)
 	const FString Parameters = PythonDocs::TypedParameters(Function);
 	const TCHAR* const First = Function.IsStatic() ? TEXT("cls") : TEXT("self");
 	return FString::Printf(TEXT("%s    def %s(%s%s%s) -> %s:\n%s        ...\n\n"),
-						   Function.IsStatic() ? TEXT("    @classmethod\n") : TEXT(""), *Function.GetName(), First,
-						   Parameters.IsEmpty() ? TEXT("") : TEXT(", "), *Parameters, *Function.ResultTypeName(),
-						   *DocString(PythonDocs::Describe(Function), 2));
+		Function.IsStatic() ? TEXT("    @classmethod\n") : TEXT(""), *Function.GetName(), First,
+		Parameters.IsEmpty() ? TEXT("") : TEXT(", "), *Parameters, *Function.ResultTypeName(),
+		*DocString(PythonDocs::Describe(Function), 2));
 }
 
 static FString DescribeMethods(const UClass* Class)
@@ -54,13 +54,12 @@ static FString DescribeMethods(const UClass* Class)
 static FString DescribeAttribute(const FPythonProperty& Property)
 {
 	const FString& Name = Property.GetName();
-	FString Text =
-		FString::Printf(TEXT("    @property\n    def %s(self) -> %s:\n%s        ...\n\n"), *Name,
-						*Property.GetConverter().TypeName(), *DocString(Property.GetProperty()->GetToolTipText().ToString(), 2));
+	FString Text = FString::Printf(TEXT("    @property\n    def %s(self) -> %s:\n%s        ...\n\n"), *Name,
+		*Property.GetConverter().TypeName(), *DocString(Property.GetProperty()->GetToolTipText().ToString(), 2));
 	if (Property.IsAttributeWritable())
 	{
 		Text += FString::Printf(TEXT("    @%s.setter\n    def %s(self, value: %s) -> None:\n        ...\n\n"), *Name, *Name,
-								*Property.GetConverter().AcceptedTypeName());
+			*Property.GetConverter().AcceptedTypeName());
 	}
 	return Text;
 }
@@ -80,16 +79,16 @@ static FString DescribeAttributes(const UStruct* Struct)
 
 static FString DescribeType(const FString& Name, const FString& Base, const FString& Doc, const FString& Body)
 {
-	return FString::Printf(TEXT("class %s(%s):\n%s\n%s"), *Name, *Base, *DocString(Doc, 1),
-						   Body.IsEmpty() ? TEXT("    ...\n\n") : *Body) +
-		   TEXT("\n");
+	return FString::Printf(
+			   TEXT("class %s(%s):\n%s\n%s"), *Name, *Base, *DocString(Doc, 1), Body.IsEmpty() ? TEXT("    ...\n\n") : *Body) +
+		TEXT("\n");
 }
 
 static FString DescribeClass(const UClass* Class)
 {
 	const FString Base = Class->GetSuperClass() ? PythonNaming::NameOf(Class->GetSuperClass()) : FString(TEXT("_ObjectBase"));
 	return DescribeType(PythonNaming::NameOf(Class), Base, Class->GetToolTipText().ToString(),
-						DescribeAttributes(Class) + DescribeMethods(Class));
+		DescribeAttributes(Class) + DescribeMethods(Class));
 }
 
 /** The constructor takes all fields, by position or by name. */
@@ -107,7 +106,7 @@ static FString DescribeStruct(const UScriptStruct* Struct)
 {
 	const UScriptStruct* const Parent = static_cast<const UScriptStruct*>(Struct->GetSuperStruct());
 	return DescribeType(PythonNaming::NameOf(Struct), Parent ? PythonNaming::NameOf(Parent) : FString(TEXT("StructBase")),
-						Struct->GetToolTipText().ToString(), DescribeStructConstructor(Struct) + DescribeAttributes(Struct));
+		Struct->GetToolTipText().ToString(), DescribeStructConstructor(Struct) + DescribeAttributes(Struct));
 }
 
 static FString DescribeEnum(UEnum* Enum)
@@ -121,8 +120,8 @@ static FString DescribeEnum(UEnum* Enum)
 		const FString Entry = PythonNaming::NameOfEntry(Enum, Index);
 		if (PyObject_HasAttr(Type.Get(), PythonStrings::Intern(Entry).Get()))
 		{
-			Body += FString::Printf(TEXT("    %s: \"%s\" = ...\n%s"), *Entry, *Name,
-									*DocString(Enum->GetToolTipTextByIndex(Index).ToString(), 1));
+			Body += FString::Printf(
+				TEXT("    %s: \"%s\" = ...\n%s"), *Entry, *Name, *DocString(Enum->GetToolTipTextByIndex(Index).ToString(), 1));
 		}
 	}
 	return DescribeType(Name, TEXT("EnumBase"), Enum->GetToolTipText().ToString(), Body + TEXT("\n"));

@@ -178,11 +178,11 @@ static PyObject* IsEmptyOrWhitespace(PyObject* Self, PyObject*)
 static PyMethodDef GTextMethods[] = {
 	{"cast", CastToText, METH_O | METH_CLASS, "cast($type, value, /)\n--\n\nMakes a Text of a Text, Name or str."},
 	{"format", PythonKeywordFunction(FormatText), METH_VARARGS | METH_KEYWORDS,
-	 "format($self, *args, **kwargs)\n--\n\nPuts values into the places {0} or {name}; a mapping gives names too."},
+		"format($self, *args, **kwargs)\n--\n\nPuts values into the places {0} or {name}; a mapping gives names too."},
 	{"as_number", AsNumber, METH_O | METH_STATIC, "as_number(value, /)\n--\n\nA number with its thousands grouped."},
 	{"is_empty", IsEmpty, METH_NOARGS, "is_empty($self, /)\n--\n\nTrue for a text without characters."},
 	{"is_empty_or_whitespace", IsEmptyOrWhitespace, METH_NOARGS,
-	 "is_empty_or_whitespace($self, /)\n--\n\nTrue for a text of blanks or without characters."},
+		"is_empty_or_whitespace($self, /)\n--\n\nTrue for a text of blanks or without characters."},
 	{nullptr, nullptr, 0, nullptr},
 };
 

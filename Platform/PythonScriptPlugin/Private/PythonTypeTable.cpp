@@ -194,7 +194,7 @@ bool PythonTypeTable::Update(PyObject* Module)
 		}
 	}
 	for (UScriptStruct* Struct :
-		 CollectNative<UScriptStruct>([](const UScriptStruct* Candidate) { return Candidate->GetCppStructOps() != nullptr; }))
+		CollectNative<UScriptStruct>([](const UScriptStruct* Candidate) { return Candidate->GetCppStructOps() != nullptr; }))
 	{
 		if (!AddStruct(Module, Struct))
 		{

@@ -55,8 +55,8 @@ public:
 	{
 		const NumberType Number = *static_cast<const NumberType*>(Address);
 		return FPythonRef::Steal(std::is_signed_v<NumberType>
-									 ? PyLong_FromLongLong(static_cast<long long>(Number))
-									 : PyLong_FromUnsignedLongLong(static_cast<unsigned long long>(Number)));
+				? PyLong_FromLongLong(static_cast<long long>(Number))
+				: PyLong_FromUnsignedLongLong(static_cast<unsigned long long>(Number)));
 	}
 
 	FString TypeName() const override { return TEXT("int"); }
@@ -169,7 +169,7 @@ public:
 	bool FromPython(PyObject* Value, void* Address) const override
 	{
 		return PythonName::FromPython(Value, *static_cast<FName*>(Address)) ||
-			   PythonErrors::RaiseUnexpectedType(TEXT("Name or str"), Value);
+			PythonErrors::RaiseUnexpectedType(TEXT("Name or str"), Value);
 	}
 
 	FPythonRef ToPython(const void* Address) const override { return PythonName::ToPython(*static_cast<const FName*>(Address)); }
@@ -184,7 +184,7 @@ public:
 	bool FromPython(PyObject* Value, void* Address) const override
 	{
 		return PythonText::FromPython(Value, *static_cast<FText*>(Address)) ||
-			   PythonErrors::RaiseUnexpectedType(TEXT("Text or str"), Value);
+			PythonErrors::RaiseUnexpectedType(TEXT("Text or str"), Value);
 	}
 
 	FPythonRef ToPython(const void* Address) const override { return PythonText::ToPython(*static_cast<const FText*>(Address)); }

@@ -41,7 +41,7 @@ public:
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Python|Execution")
 	static bool ExecutePythonCommandEx(const FString& PythonCommand, FString& CommandResult,
-									   TArray<FPythonLogOutputEntry>& LogOutput,
-									   EPythonCommandExecutionMode ExecutionMode = EPythonCommandExecutionMode::ExecuteFile,
-									   EPythonFileExecutionScope FileExecutionScope = EPythonFileExecutionScope::Private);
+		TArray<FPythonLogOutputEntry>& LogOutput,
+		EPythonCommandExecutionMode ExecutionMode = EPythonCommandExecutionMode::ExecuteFile,
+		EPythonFileExecutionScope FileExecutionScope = EPythonFileExecutionScope::Private);
 };

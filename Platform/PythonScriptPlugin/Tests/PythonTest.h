@@ -15,5 +15,5 @@ FString Evaluate(const FString& Expression);
 FString ErrorOf(const FString& Statements);
 
 FPythonCommandEx RunEx(const FString& Command, EPythonCommandExecutionMode Mode = EPythonCommandExecutionMode::ExecuteFile,
-					   EPythonFileExecutionScope Scope = EPythonFileExecutionScope::Private);
+	EPythonFileExecutionScope Scope = EPythonFileExecutionScope::Private);
 }

@@ -147,7 +147,7 @@ public:
 
 	UFUNCTION(BlueprintCallable, Category = "Test")
 	static FString Defaults(int32 Number = 5, FString Text = TEXT("abc"), FName Name = NAME_None, bool bFlag = true,
-							FVector2D Point = FVector2D(1.0, 2.0), EPythonTestColor Color = EPythonTestColor::LightGreen);
+		FVector2D Point = FVector2D(1.0, 2.0), EPythonTestColor Color = EPythonTestColor::LightGreen);
 
 	UFUNCTION(BlueprintCallable, Category = "Test")
 	static int32 EchoInt(int32 Value);

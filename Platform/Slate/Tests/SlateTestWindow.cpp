@@ -107,8 +107,8 @@ void FSlateTestWindow::Wheel(float Delta)
 
 void FSlateTestWindow::SetModifiers(const FHeldModifiers& Modifiers)
 {
-	App().GetPlatformApplication()->SetModifierKeys(FModifierKeysState(
-		Modifiers.bShift, false, Modifiers.bControl, false, Modifiers.bAlt, false, false, false, false));
+	App().GetPlatformApplication()->SetModifierKeys(
+		FModifierKeysState(Modifiers.bShift, false, Modifiers.bControl, false, Modifiers.bAlt, false, false, false, false));
 }
 
 void FSlateTestWindow::KeyDown(const FKey& Key, FHeldModifiers Modifiers, bool bRepeat)

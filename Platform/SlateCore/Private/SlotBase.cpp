@@ -3,9 +3,15 @@
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
 
-FSlotBase::FSlotBase() : Widget(SNullWidget::NullWidget) {}
+FSlotBase::FSlotBase()
+	: Widget(SNullWidget::NullWidget)
+{
+}
 
-FSlotBase::FSlotBase(const TSharedRef<SWidget>& InWidget) : Widget(InWidget) {}
+FSlotBase::FSlotBase(const TSharedRef<SWidget>& InWidget)
+	: Widget(InWidget)
+{
+}
 
 FSlotBase::~FSlotBase()
 {

@@ -26,10 +26,9 @@ FString NameOf(EBadValue BadValue)
 FString Describe(const FDecorationColumns& Row)
 {
 	return FString::Printf(TEXT("%s | %s | %s | bad value: %s%s | others: %s | %s"), *Row.Key, *Row.Value,
-						   Row.bTypeTestFirst ? TEXT("type first") : TEXT("value first"), *NameOf(Row.BadValue),
-						   Row.BadValueWarning.IsEmpty() ? TEXT("") : *(TEXT(", ") + Row.BadValueWarning),
-						   Row.bIgnoredByOthers ? TEXT("ignored") : TEXT("unhandled"),
-						   *FString::Join(Row.WidgetTypes, TEXT(", ")));
+		Row.bTypeTestFirst ? TEXT("type first") : TEXT("value first"), *NameOf(Row.BadValue),
+		Row.BadValueWarning.IsEmpty() ? TEXT("") : *(TEXT(", ") + Row.BadValueWarning),
+		Row.bIgnoredByOthers ? TEXT("ignored") : TEXT("unhandled"), *FString::Join(Row.WidgetTypes, TEXT(", ")));
 }
 }
 

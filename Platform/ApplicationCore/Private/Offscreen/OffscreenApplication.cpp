@@ -51,8 +51,8 @@ TSharedRef<FGenericWindow> FOffscreenApplication::MakeWindow()
 }
 
 void FOffscreenApplication::InitializeWindow(const TSharedRef<FGenericWindow>& Window,
-											 const TSharedRef<FGenericWindowDefinition>& InDefinition,
-											 const TSharedPtr<FGenericWindow>& InParent, const bool bShowImmediately)
+	const TSharedRef<FGenericWindowDefinition>& InDefinition, const TSharedPtr<FGenericWindow>& InParent,
+	const bool bShowImmediately)
 {
 	const TSharedRef<FOffscreenWindow> NewWindow = StaticCastSharedRef<FOffscreenWindow>(Window);
 	NewWindow->Initialize(InDefinition);

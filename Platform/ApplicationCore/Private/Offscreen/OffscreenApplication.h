@@ -18,8 +18,8 @@ public:
 	virtual void WakeUp() override;
 	virtual TSharedRef<FGenericWindow> MakeWindow() override;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
-								  const TSharedRef<FGenericWindowDefinition>& InDefinition,
-								  const TSharedPtr<FGenericWindow>& InParent, const bool bShowImmediately) override;
+		const TSharedRef<FGenericWindowDefinition>& InDefinition, const TSharedPtr<FGenericWindow>& InParent,
+		const bool bShowImmediately) override;
 	virtual void SetCapture(const TSharedPtr<FGenericWindow>& InWindow) override { CaptureWindow = InWindow; }
 	virtual void* GetCapture() const override;
 	virtual FPlatformRect GetWorkArea(const FPlatformRect& CurrentWindow) const override;
@@ -34,14 +34,15 @@ public:
 	/** Queues a report for the next PumpMessages; it is dropped if the window is destroyed before. */
 	template <typename ResultType, typename... ParameterTypes, typename... ArgumentTypes>
 	void Report(FOffscreenWindow& Window,
-				ResultType (FGenericApplicationMessageHandler::*Function)(const TSharedRef<FGenericWindow>&, ParameterTypes...),
-				ArgumentTypes... Arguments)
+		ResultType (FGenericApplicationMessageHandler::*Function)(const TSharedRef<FGenericWindow>&, ParameterTypes...),
+		ArgumentTypes... Arguments)
 	{
 		const TSharedRef<FGenericWindow> About = Window.AsShared();
-		Reports.Add(FReport{&Window, [this, About, Function, Arguments...]()
-							{
-								((*MessageHandler).*Function)(About, Arguments...);
-							}});
+		Reports.Add(FReport{&Window,
+			[this, About, Function, Arguments...]()
+			{
+				((*MessageHandler).*Function)(About, Arguments...);
+			}});
 	}
 
 private:

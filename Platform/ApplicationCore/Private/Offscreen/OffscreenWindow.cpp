@@ -16,10 +16,10 @@ int32 Limit(int32 Value, const TOptional<float>& Least, const TOptional<float>& 
 void FOffscreenWindow::Initialize(const TSharedRef<FGenericWindowDefinition>& InDefinition)
 {
 	Definition = InDefinition;
-	const FIntPoint Position(FMath::RoundToInt(InDefinition->XDesiredPositionOnScreen),
-							 FMath::RoundToInt(InDefinition->YDesiredPositionOnScreen));
+	const FIntPoint Position(
+		FMath::RoundToInt(InDefinition->XDesiredPositionOnScreen), FMath::RoundToInt(InDefinition->YDesiredPositionOnScreen));
 	const FIntPoint Size(FMath::Max(FMath::RoundToInt(InDefinition->WidthDesiredOnScreen), 1),
-						 FMath::Max(FMath::RoundToInt(InDefinition->HeightDesiredOnScreen), 1));
+		FMath::Max(FMath::RoundToInt(InDefinition->HeightDesiredOnScreen), 1));
 	Rect = FIntRect(Position, Position + Size);
 	RestoredRect = Rect;
 }
@@ -45,8 +45,8 @@ void FOffscreenWindow::SetRect(const FIntRect& NewRect)
 void FOffscreenWindow::ReshapeWindow(int32 X, int32 Y, int32 Width, int32 Height)
 {
 	const FWindowSizeLimits& Limits = Definition->SizeLimits;
-	const FIntPoint Size(Limit(Width, Limits.GetMinWidth(), Limits.GetMaxWidth()),
-						 Limit(Height, Limits.GetMinHeight(), Limits.GetMaxHeight()));
+	const FIntPoint Size(
+		Limit(Width, Limits.GetMinWidth(), Limits.GetMaxWidth()), Limit(Height, Limits.GetMinHeight(), Limits.GetMaxHeight()));
 	SetRect(FIntRect(FIntPoint(X, Y), FIntPoint(X, Y) + Size));
 }
 
@@ -102,8 +102,8 @@ void FOffscreenWindow::Show()
 	const bool bFirst = !bWasShown;
 	bWasShown = true;
 	const EWindowActivationPolicy Policy = Definition->ActivationPolicy;
-	const bool bActivates = Definition->AcceptsInput && (Policy == EWindowActivationPolicy::Always ||
-														 (Policy == EWindowActivationPolicy::FirstShown && bFirst));
+	const bool bActivates = Definition->AcceptsInput &&
+		(Policy == EWindowActivationPolicy::Always || (Policy == EWindowActivationPolicy::FirstShown && bFirst));
 	if (bActivates)
 	{
 		Application->Activate(AsShared());

@@ -159,8 +159,8 @@ TSharedRef<FGenericWindow> FSDLApplication::MakeWindow()
 }
 
 void FSDLApplication::InitializeWindow(const TSharedRef<FGenericWindow>& Window,
-									   const TSharedRef<FGenericWindowDefinition>& InDefinition,
-									   const TSharedPtr<FGenericWindow>& InParent, const bool bShowImmediately)
+	const TSharedRef<FGenericWindowDefinition>& InDefinition, const TSharedPtr<FGenericWindow>& InParent,
+	const bool bShowImmediately)
 {
 	Windows.RemoveAll([](const TWeakPtr<FSDLWindow>& Candidate) { return !Candidate.IsValid(); });
 	const TSharedRef<FSDLWindow> NewWindow = StaticCastSharedRef<FSDLWindow>(Window);
@@ -219,8 +219,8 @@ void FSDLApplication::NoteCursor(uint32 WindowId, int32 X, int32 Y)
 void FSDLApplication::NoteModifiers(const uint16 Down)
 {
 	ModifierKeys = FModifierKeysState((Down & KMOD_LSHIFT) != 0, (Down & KMOD_RSHIFT) != 0, (Down & KMOD_LCTRL) != 0,
-									  (Down & KMOD_RCTRL) != 0, (Down & KMOD_LALT) != 0, (Down & KMOD_RALT) != 0,
-									  (Down & KMOD_LGUI) != 0, (Down & KMOD_RGUI) != 0, (Down & KMOD_CAPS) != 0);
+		(Down & KMOD_RCTRL) != 0, (Down & KMOD_LALT) != 0, (Down & KMOD_RALT) != 0, (Down & KMOD_LGUI) != 0,
+		(Down & KMOD_RGUI) != 0, (Down & KMOD_CAPS) != 0);
 }
 
 void FSDLApplication::Handle(const SDL_Event& Event)

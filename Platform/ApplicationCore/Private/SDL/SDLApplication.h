@@ -22,8 +22,8 @@ public:
 	virtual void WakeUp() override;
 	virtual TSharedRef<FGenericWindow> MakeWindow() override;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
-								  const TSharedRef<FGenericWindowDefinition>& InDefinition,
-								  const TSharedPtr<FGenericWindow>& InParent, const bool bShowImmediately) override;
+		const TSharedRef<FGenericWindowDefinition>& InDefinition, const TSharedPtr<FGenericWindow>& InParent,
+		const bool bShowImmediately) override;
 	virtual void SetCapture(const TSharedPtr<FGenericWindow>& InWindow) override;
 	virtual void* GetCapture() const override;
 	virtual FPlatformRect GetWorkArea(const FPlatformRect& CurrentWindow) const override;

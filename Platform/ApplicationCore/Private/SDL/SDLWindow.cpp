@@ -59,9 +59,9 @@ void FSDLWindow::Initialize(const TSharedRef<FGenericWindowDefinition>& InDefini
 	Definition = InDefinition;
 	const FTCHARToUTF8 Title(*Definition->Title);
 	Handle = SDL_CreateWindow(Title.Get(), FMath::RoundToInt(Definition->XDesiredPositionOnScreen),
-							  FMath::RoundToInt(Definition->YDesiredPositionOnScreen),
-							  FMath::Max(FMath::RoundToInt(Definition->WidthDesiredOnScreen), 1),
-							  FMath::Max(FMath::RoundToInt(Definition->HeightDesiredOnScreen), 1), GetFlags(*Definition));
+		FMath::RoundToInt(Definition->YDesiredPositionOnScreen),
+		FMath::Max(FMath::RoundToInt(Definition->WidthDesiredOnScreen), 1),
+		FMath::Max(FMath::RoundToInt(Definition->HeightDesiredOnScreen), 1), GetFlags(*Definition));
 	checkf(Handle, TEXT("The window system refuses a window: %s"), UTF8_TO_TCHAR(SDL_GetError()));
 
 	const FWindowSizeLimits& Limits = Definition->SizeLimits;

@@ -34,8 +34,8 @@ public:
 	virtual float GetDPIScaleFactor() const override { return DPIScaleFactor; }
 	virtual void SetDPIScaleFactor(const float Factor) override { DPIScaleFactor = Factor; }
 	virtual void* GetOSWindowHandle() const override { return Handle; }
-	virtual void PresentPixels(const uint8* Bgra, int32 Width, int32 Height, int32 Stride,
-							   const TArray<FIntRect>& Damage) override;
+	virtual void PresentPixels(
+		const uint8* Bgra, int32 Width, int32 Height, int32 Stride, const TArray<FIntRect>& Damage) override;
 
 	/** Shows the kept pixels again. False when they are lost. */
 	bool RepaintFromKeptPixels();

@@ -12,8 +12,8 @@ class FModifierKeysState
 public:
 	FModifierKeysState() = default;
 	FModifierKeysState(const bool bInIsLeftShiftDown, const bool bInIsRightShiftDown, const bool bInIsLeftControlDown,
-					   const bool bInIsRightControlDown, const bool bInIsLeftAltDown, const bool bInIsRightAltDown,
-					   const bool bInIsLeftCommandDown, const bool bInIsRightCommandDown, const bool bInAreCapsLocked)
+		const bool bInIsRightControlDown, const bool bInIsLeftAltDown, const bool bInIsRightAltDown,
+		const bool bInIsLeftCommandDown, const bool bInIsRightCommandDown, const bool bInAreCapsLocked)
 		: bIsLeftShiftDown(bInIsLeftShiftDown)
 		, bIsRightShiftDown(bInIsRightShiftDown)
 		, bIsLeftControlDown(bInIsLeftControlDown)
@@ -104,8 +104,8 @@ public:
 	/** A window without a native counterpart yet; InitializeWindow makes that. */
 	virtual TSharedRef<FGenericWindow> MakeWindow() = 0;
 	virtual void InitializeWindow(const TSharedRef<FGenericWindow>& Window,
-								  const TSharedRef<FGenericWindowDefinition>& InDefinition,
-								  const TSharedPtr<FGenericWindow>& InParent, const bool bShowImmediately) = 0;
+		const TSharedRef<FGenericWindowDefinition>& InDefinition, const TSharedPtr<FGenericWindow>& InParent,
+		const bool bShowImmediately) = 0;
 
 	/** Notes which window wants the mouse, also outside of it, for as long as a button is down; null ends that. */
 	virtual void SetCapture(const TSharedPtr<FGenericWindow>& InWindow) = 0;

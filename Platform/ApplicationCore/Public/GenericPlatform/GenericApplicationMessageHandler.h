@@ -42,16 +42,16 @@ public:
 	virtual bool OnKeyDown(const int32 KeyCode, const uint32 CharacterCode, const bool IsRepeat) { return false; }
 	virtual bool OnKeyUp(const int32 KeyCode, const uint32 CharacterCode, const bool IsRepeat) { return false; }
 
-	virtual bool OnMouseDown(const TSharedPtr<FGenericWindow>& Window, const EMouseButtons::Type Button,
-							 const FVector2D CursorPos)
+	virtual bool OnMouseDown(
+		const TSharedPtr<FGenericWindow>& Window, const EMouseButtons::Type Button, const FVector2D CursorPos)
 	{
 		return false;
 	}
 	virtual bool OnMouseUp(const EMouseButtons::Type Button, const FVector2D CursorPos) { return false; }
 
 	/** Comes in place of the second OnMouseDown of a double click. */
-	virtual bool OnMouseDoubleClick(const TSharedPtr<FGenericWindow>& Window, const EMouseButtons::Type Button,
-									const FVector2D CursorPos)
+	virtual bool OnMouseDoubleClick(
+		const TSharedPtr<FGenericWindow>& Window, const EMouseButtons::Type Button, const FVector2D CursorPos)
 	{
 		return false;
 	}
@@ -66,8 +66,8 @@ public:
 	virtual bool OnCursorSet() { return false; }
 
 	/** The client area has a new size in pixels. */
-	virtual bool OnSizeChanged(const TSharedRef<FGenericWindow>& Window, const int32 Width, const int32 Height,
-							   bool bWasMinimized = false)
+	virtual bool OnSizeChanged(
+		const TSharedRef<FGenericWindow>& Window, const int32 Width, const int32 Height, bool bWasMinimized = false)
 	{
 		return false;
 	}

@@ -18,7 +18,8 @@ bool MatchesWith(ESearchCase::Type SearchCase, const TCHAR* Text, const TCHAR* S
 }
 
 /** The first place from Start on, or INDEX_NONE. */
-int32 FindForward(const TCHAR* Text, int32 Length, const TCHAR* SubString, int32 SubLength, ESearchCase::Type SearchCase, int32 Start)
+int32 FindForward(
+	const TCHAR* Text, int32 Length, const TCHAR* SubString, int32 SubLength, ESearchCase::Type SearchCase, int32 Start)
 {
 	const TCHAR First = SubLength ? FChar::ToLower(*SubString) : 0;
 	// What is no letter has no other case, so that most places are passed over by comparing one character.
@@ -222,7 +223,8 @@ int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* Delimiter,
 	return ParseIntoArray(OutArray, &Delimiter, 1, bCullEmpty);
 }
 
-int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* const* Delimiters, int32 NumDelimiters, bool bCullEmpty) const
+int32 FString::ParseIntoArray(
+	TArray<FString>& OutArray, const TCHAR* const* Delimiters, int32 NumDelimiters, bool bCullEmpty) const
 {
 	return Cut(*this, OutArray, bCullEmpty,
 		[=](const TCHAR* At)

@@ -20,7 +20,8 @@ FText FormatPattern(const FText& PatternText, const FindArgumentType& FindArgume
 			++Index;
 			continue;
 		}
-		const int32 End = Char == u'{' ? Pattern.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index) : INDEX_NONE;
+		const int32 End =
+			Char == u'{' ? Pattern.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index) : INDEX_NONE;
 		const FFormatArgumentValue* const Argument =
 			End != INDEX_NONE ? FindArgument(Pattern.Mid(Index + 1, End - Index - 1).TrimStartAndEnd()) : nullptr;
 		if (Argument)

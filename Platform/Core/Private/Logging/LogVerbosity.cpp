@@ -10,9 +10,9 @@ struct FVerbosityName
 	ELogVerbosity::Type Verbosity;
 };
 
+// clang-format off
 /** The first name of a verbosity is the one that is printed. */
-const FVerbosityName GVerbosityNames[] =
-{
+const FVerbosityName GVerbosityNames[] = {
 	{ TEXT("NoLogging"),   ELogVerbosity::NoLogging },
 	{ TEXT("Fatal"),       ELogVerbosity::Fatal },
 	{ TEXT("Error"),       ELogVerbosity::Error },
@@ -24,6 +24,7 @@ const FVerbosityName GVerbosityNames[] =
 	{ TEXT("All"),         ELogVerbosity::All },
 	{ TEXT("Off"),         ELogVerbosity::NoLogging },
 };
+// clang-format on
 }
 
 const TCHAR* ToString(ELogVerbosity::Type Verbosity)

@@ -80,7 +80,7 @@ FLinearColor::FLinearColor(const FColor& Color)
 bool FLinearColor::Equals(const FLinearColor& C, float Tolerance) const
 {
 	return FMath::Abs(R - C.R) < Tolerance && FMath::Abs(G - C.G) < Tolerance && FMath::Abs(B - C.B) < Tolerance &&
-		   FMath::Abs(A - C.A) < Tolerance;
+		FMath::Abs(A - C.A) < Tolerance;
 }
 
 FColor FLinearColor::ToFColor(bool bSRGB) const
@@ -136,13 +136,13 @@ FLinearColor FLinearColor::Desaturate(float Desaturation) const
 {
 	const float Luminance = GetLuminance();
 	return FLinearColor(FMath::Lerp(R, Luminance, Desaturation), FMath::Lerp(G, Luminance, Desaturation),
-						FMath::Lerp(B, Luminance, Desaturation), A);
+		FMath::Lerp(B, Luminance, Desaturation), A);
 }
 
 FLinearColor FLinearColor::GetClamped(float InMin, float InMax) const
 {
 	return FLinearColor(FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax),
-						FMath::Clamp(A, InMin, InMax));
+		FMath::Clamp(A, InMin, InMax));
 }
 
 FString FLinearColor::ToString() const

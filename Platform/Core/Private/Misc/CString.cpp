@@ -224,8 +224,8 @@ double FCString::Atod(const TCHAR* Text)
 
 bool FCString::ToBool(const TCHAR* Text)
 {
-	return Stricmp(Text, TEXT("True")) == 0 || Stricmp(Text, TEXT("Yes")) == 0 || Stricmp(Text, TEXT("On")) == 0
-		|| Atoi(Text) != 0;
+	return Stricmp(Text, TEXT("True")) == 0 || Stricmp(Text, TEXT("Yes")) == 0 || Stricmp(Text, TEXT("On")) == 0 ||
+		Atoi(Text) != 0;
 }
 
 bool FCString::IsNumeric(const TCHAR* Text)

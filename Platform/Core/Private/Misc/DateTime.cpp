@@ -36,7 +36,7 @@ FDateTime::FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minut
 {
 	check(Validate(Year, Month, Day, Hour, Minute, Second, Millisecond));
 	Ticks = DaysFromDate(Year, Month, Day) * ETimespan::TicksPerDay + FTimespan(Hour, Minute, Second).GetTicks() +
-			Millisecond * ETimespan::TicksPerMillisecond;
+		Millisecond * ETimespan::TicksPerMillisecond;
 }
 
 FDateTime FDateTime::UtcNow()
@@ -88,7 +88,7 @@ int32 FDateTime::DaysInYear(int32 Year)
 bool FDateTime::Validate(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minute, int32 Second, int32 Millisecond)
 {
 	return Year >= 1 && Year <= 9999 && Month >= 1 && Month <= 12 && Day >= 1 && Day <= DaysInMonth(Year, Month) && Hour >= 0 &&
-		   Hour <= 23 && Minute >= 0 && Minute <= 59 && Second >= 0 && Second <= 59 && Millisecond >= 0 && Millisecond <= 999;
+		Hour <= 23 && Minute >= 0 && Minute <= 59 && Second >= 0 && Second <= 59 && Millisecond >= 0 && Millisecond <= 999;
 }
 
 void FDateTime::GetDate(int32& OutYear, int32& OutMonth, int32& OutDay) const

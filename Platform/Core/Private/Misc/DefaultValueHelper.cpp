@@ -16,8 +16,8 @@ bool ParseIntegerIn(const FString& Source, int64 Min, int64 Max, int64& OutValue
 	for (int32 Index = FirstDigit; Index < Text.Len(); ++Index)
 	{
 		const int64 Digit = FChar::ConvertCharDigitToInt(Text[Index]);
-		if (!FChar::IsDigit(Text[Index]) || __builtin_mul_overflow(Value, 10, &Value)
-			|| __builtin_add_overflow(Value, bNegative ? -Digit : Digit, &Value))
+		if (!FChar::IsDigit(Text[Index]) || __builtin_mul_overflow(Value, 10, &Value) ||
+			__builtin_add_overflow(Value, bNegative ? -Digit : Digit, &Value))
 		{
 			return false;
 		}

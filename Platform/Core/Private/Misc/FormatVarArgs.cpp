@@ -218,7 +218,7 @@ private:
 				return true;
 			}
 			case u's':
-				Conversion.bHasLength && Conversion.Length == 2 ? PrintNarrowText(Conversion) : PrintWideText(Conversion);
+				Conversion.bHasLength&& Conversion.Length == 2 ? PrintNarrowText(Conversion) : PrintWideText(Conversion);
 				return true;
 			case u'S':
 				PrintNarrowText(Conversion);

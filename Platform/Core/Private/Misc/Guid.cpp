@@ -105,12 +105,9 @@ bool FGuid::ParseExact(const FString& GuidString, EGuidFormats Format, FGuid& Ou
 
 bool FGuid::Parse(const FString& GuidString, FGuid& OutGuid)
 {
-	static constexpr EGuidFormats Formats[] = {EGuidFormats::Digits,
-											   EGuidFormats::DigitsWithHyphens,
-											   EGuidFormats::DigitsWithHyphensInBraces,
-											   EGuidFormats::DigitsWithHyphensInParentheses,
-											   EGuidFormats::HexValuesInBraces,
-											   EGuidFormats::UniqueObjectGuid};
+	static constexpr EGuidFormats Formats[] = {EGuidFormats::Digits, EGuidFormats::DigitsWithHyphens,
+		EGuidFormats::DigitsWithHyphensInBraces, EGuidFormats::DigitsWithHyphensInParentheses, EGuidFormats::HexValuesInBraces,
+		EGuidFormats::UniqueObjectGuid};
 	for (const EGuidFormats Format : Formats)
 	{
 		if (ParseExact(GuidString, Format, OutGuid))

@@ -53,7 +53,8 @@ bool HasName(int Handle, const std::string& NativePath)
 {
 	struct stat Open;
 	struct stat Named;
-	return fstat(Handle, &Open) == 0 && stat(NativePath.c_str(), &Named) == 0 && Open.st_dev == Named.st_dev && Open.st_ino == Named.st_ino;
+	return fstat(Handle, &Open) == 0 && stat(NativePath.c_str(), &Named) == 0 && Open.st_dev == Named.st_dev &&
+		Open.st_ino == Named.st_ino;
 }
 
 /** Opens an empty file for this process alone. An older file of that name becomes a backup. -1, with errno set, on failure. */

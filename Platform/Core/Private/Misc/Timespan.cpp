@@ -50,7 +50,7 @@ FString FTimespan::ToString() const
 	{
 		return Value < 0 ? -Value : Value;
 	};
-	const FString Clock = FString::Printf(TEXT("%02d:%02d:%02d.%03d"), Part(GetHours()), Part(GetMinutes()), Part(GetSeconds()),
-										  Part(GetFractionMilli()));
+	const FString Clock = FString::Printf(
+		TEXT("%02d:%02d:%02d.%03d"), Part(GetHours()), Part(GetMinutes()), Part(GetSeconds()), Part(GetFractionMilli()));
 	return GetDays() == 0 ? Sign + Clock : FString::Printf(TEXT("%s%d.%s"), Sign, Part(GetDays()), *Clock);
 }

@@ -22,8 +22,8 @@ FNameParts SplitNumber(const TCHAR* Text, int32 Length)
 		--FirstDigit;
 	}
 	const int32 NumDigits = Length - FirstDigit;
-	if (NumDigits == 0 || NumDigits > 10 || FirstDigit < 2 || Text[FirstDigit - 1] != u'_'
-		|| (Text[FirstDigit] == u'0' && NumDigits > 1))
+	if (NumDigits == 0 || NumDigits > 10 || FirstDigit < 2 || Text[FirstDigit - 1] != u'_' ||
+		(Text[FirstDigit] == u'0' && NumDigits > 1))
 	{
 		return {Length};
 	}
@@ -44,7 +44,8 @@ bool FindIndices(const TCHAR* Text, int32 Length, EFindName FindType, FNameTable
 {
 	if (Length >= NAME_SIZE)
 	{
-		UE_LOG(LogUnrealNames, Error, TEXT("A name has at most %d characters, found %d: '%.64s...'"), NAME_SIZE - 1, Length, Text);
+		UE_LOG(
+			LogUnrealNames, Error, TEXT("A name has at most %d characters, found %d: '%.64s...'"), NAME_SIZE - 1, Length, Text);
 		return false;
 	}
 	return FNameTable::Get().Find(Text, Length, FindType == FNAME_Add, OutIndices);

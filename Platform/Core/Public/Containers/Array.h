@@ -714,8 +714,8 @@ private:
 	/** Gives memory back when more than three quarters of a large block lie idle. */
 	void ShrinkIfSparse(bool bAllowShrinking)
 	{
-		if (bAllowShrinking && ArrayMax > AllocatorInstance.InitialCapacity && int64(ArrayNum) * 4 < ArrayMax
-			&& SIZE_T(ArrayMax) * sizeof(ElementType) > 512)
+		if (bAllowShrinking && ArrayMax > AllocatorInstance.InitialCapacity && int64(ArrayNum) * 4 < ArrayMax &&
+			SIZE_T(ArrayMax) * sizeof(ElementType) > 512)
 		{
 			ResizeTo(ArrayNum > 0 ? AllocatorInstance.CalculateReserve(ArrayNum) : AllocatorInstance.InitialCapacity);
 		}

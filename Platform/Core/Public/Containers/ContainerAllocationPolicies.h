@@ -44,13 +44,15 @@ public:
 			if constexpr (alignof(ElementType) > 16)
 			{
 				void* NewData = NewMax ? FMemory::Malloc(SIZE_T(NewMax) * sizeof(ElementType), alignof(ElementType)) : nullptr;
-				FMemory::Memcpy(NewData, static_cast<void*>(Data), SIZE_T(PreviousNum < NewMax ? PreviousNum : NewMax) * sizeof(ElementType));
+				FMemory::Memcpy(
+					NewData, static_cast<void*>(Data), SIZE_T(PreviousNum < NewMax ? PreviousNum : NewMax) * sizeof(ElementType));
 				FMemory::Free(Data);
 				Data = static_cast<ElementType*>(NewData);
 			}
 			else
 			{
-				Data = static_cast<ElementType*>(FMemory::Realloc(static_cast<void*>(Data), SIZE_T(NewMax) * sizeof(ElementType)));
+				Data =
+					static_cast<ElementType*>(FMemory::Realloc(static_cast<void*>(Data), SIZE_T(NewMax) * sizeof(ElementType)));
 			}
 		}
 
@@ -88,10 +90,7 @@ public:
 
 		static constexpr int32 InitialCapacity = NumInlineElements;
 
-		ElementType* GetAllocation() const
-		{
-			return Heap ? Heap : reinterpret_cast<ElementType*>(const_cast<uint8*>(Inline));
-		}
+		ElementType* GetAllocation() const { return Heap ? Heap : reinterpret_cast<ElementType*>(const_cast<uint8*>(Inline)); }
 
 		void ResizeAllocation(int32 PreviousNum, int32 NewMax)
 		{

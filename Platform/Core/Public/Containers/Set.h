@@ -317,8 +317,7 @@ public:
 	public:
 		using SetType = std::conditional_t<bConst, const TSet, TSet>;
 		using ItElementType = std::conditional_t<bConst, const ElementType, ElementType>;
-		using ElementIterator =
-			std::conditional_t<bConst, typename FElements::TConstIterator, typename FElements::TIterator>;
+		using ElementIterator = std::conditional_t<bConst, typename FElements::TConstIterator, typename FElements::TIterator>;
 
 		TBaseIterator(SetType& InSet, const ElementIterator& InElement)
 			: Set(&InSet)

@@ -185,7 +185,8 @@ public:
 		ESearchCase::Type SearchCase = ESearchCase::IgnoreCase, ESearchDir::Type SearchDir = ESearchDir::FromStart) const;
 	/** @return How many pieces there are; empty ones are dropped unless told otherwise. The delimiter is matched exactly. */
 	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* Delimiter, bool bCullEmpty = true) const;
-	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* const* Delimiters, int32 NumDelimiters, bool bCullEmpty = true) const;
+	int32 ParseIntoArray(
+		TArray<FString>& OutArray, const TCHAR* const* Delimiters, int32 NumDelimiters, bool bCullEmpty = true) const;
 	/** Lines end at LF, CRLF or CR. */
 	int32 ParseIntoArrayLines(TArray<FString>& OutArray, bool bCullEmpty = true) const;
 	/** Pieces between blanks, tabs, line ends and, if given, one delimiter more. */
@@ -251,7 +252,8 @@ public:
 	template <typename FormatType, typename... Types>
 	static FString Printf(const FormatType& Format, Types... Args)
 	{
-		static_assert(std::is_array_v<FormatType> && std::is_same_v<std::remove_cv_t<std::remove_all_extents_t<FormatType>>, TCHAR>,
+		static_assert(
+			std::is_array_v<FormatType> && std::is_same_v<std::remove_cv_t<std::remove_all_extents_t<FormatType>>, TCHAR>,
 			"The format is a TCHAR literal");
 		static_assert((... && std::is_trivially_copyable_v<Types>), "Only numbers, enums and pointers can be printed");
 		return PrintfImpl(Format, Args...);

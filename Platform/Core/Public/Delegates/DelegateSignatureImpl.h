@@ -78,7 +78,7 @@ public:
 	static TDelegate CreateWeakLambda(const UserClass* Object, FunctorType&& Functor, VarTypes... Vars)
 	{
 		return Make(DelegateInternals::TObjectTarget<const UserClass, false>{Object}, std::forward<FunctorType>(Functor),
-					std::move(Vars)...);
+			std::move(Vars)...);
 	}
 
 	/** Binds a method of an object that must outlive the binding. */
@@ -98,16 +98,16 @@ public:
 
 	/** Binds a method of an object that shared pointers own; the binding does not keep it alive. */
 	template <typename UserClass, ESPMode Mode, typename... VarTypes>
-	static TDelegate CreateSP(const TSharedRef<UserClass, Mode>& Object, TMethodPtr<UserClass, VarTypes...> Method,
-							  VarTypes... Vars)
+	static TDelegate CreateSP(
+		const TSharedRef<UserClass, Mode>& Object, TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		check(Method != nullptr);
 		return Make(DelegateInternals::TSharedTarget<UserClass, Mode>{Object}, Method, std::move(Vars)...);
 	}
 
 	template <typename UserClass, ESPMode Mode, typename... VarTypes>
-	static TDelegate CreateSP(const TSharedRef<UserClass, Mode>& Object, TConstMethodPtr<UserClass, VarTypes...> Method,
-							  VarTypes... Vars)
+	static TDelegate CreateSP(
+		const TSharedRef<UserClass, Mode>& Object, TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		check(Method != nullptr);
 		return Make(DelegateInternals::TSharedTarget<const UserClass, Mode>{Object}, Method, std::move(Vars)...);
@@ -313,57 +313,57 @@ public:
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddRaw(UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method,
-						   VarTypes... Vars)
+	FDelegateHandle AddRaw(
+		UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateRaw(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddRaw(const UserClass* Object, typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method,
-						   VarTypes... Vars)
+	FDelegateHandle AddRaw(
+		const UserClass* Object, typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateRaw(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, ESPMode Mode, typename... VarTypes>
 	FDelegateHandle AddSP(const TSharedRef<UserClass, Mode>& Object,
-						  typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
+		typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateSP(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, ESPMode Mode, typename... VarTypes>
 	FDelegateHandle AddSP(const TSharedRef<UserClass, Mode>& Object,
-						  typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
+		typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateSP(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddSP(UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method,
-						  VarTypes... Vars)
+	FDelegateHandle AddSP(
+		UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateSP(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddSP(const UserClass* Object, typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method,
-						  VarTypes... Vars)
+	FDelegateHandle AddSP(
+		const UserClass* Object, typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateSP(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddUObject(UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method,
-							   VarTypes... Vars)
+	FDelegateHandle AddUObject(
+		UserClass* Object, typename FDelegate::template TMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateUObject(Object, Method, std::move(Vars)...));
 	}
 
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddUObject(const UserClass* Object,
-							   typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
+	FDelegateHandle AddUObject(
+		const UserClass* Object, typename FDelegate::template TConstMethodPtr<UserClass, VarTypes...> Method, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateUObject(Object, Method, std::move(Vars)...));
 	}
@@ -372,7 +372,7 @@ public:
 	bool Remove(FDelegateHandle Handle)
 	{
 		return Handle.IsValid() &&
-			   RetireAll([Handle](const IDelegateInstance& Instance) { return Instance.GetHandle() == Handle; }) > 0;
+			RetireAll([Handle](const IDelegateInstance& Instance) { return Instance.GetHandle() == Handle; }) > 0;
 	}
 
 	/** Removes all bindings to an object. @return How many there were. */

@@ -10,7 +10,8 @@ struct FMemory
 {
 	static void* Malloc(SIZE_T Count, uint32 Alignment = 0)
 	{
-		void* Result = Alignment > 16 ? std::aligned_alloc(Alignment, (Count + Alignment - 1) / Alignment * Alignment) : std::malloc(Count);
+		void* Result =
+			Alignment > 16 ? std::aligned_alloc(Alignment, (Count + Alignment - 1) / Alignment * Alignment) : std::malloc(Count);
 		if (UNLIKELY(!Result && Count))
 		{
 			OutOfMemory(Count);

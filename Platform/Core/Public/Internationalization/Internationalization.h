@@ -16,7 +16,8 @@ private:
 };
 
 #define NSLOCTEXT(Namespace, Key, Literal) \
-	FInternationalization::Get().ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(TEXT(Literal), TEXT(Namespace), TEXT(Key))
+	FInternationalization::Get().ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText( \
+		TEXT(Literal), TEXT(Namespace), TEXT(Key))
 
 /** Wants LOCTEXT_NAMESPACE to be defined by the source file. */
 #define LOCTEXT(Key, Literal) NSLOCTEXT(LOCTEXT_NAMESPACE, Key, Literal)

@@ -13,7 +13,8 @@ struct CORE_API FMsg
 	 *
 	 * @param Fmt  Format as for FString::Printf; the arguments must match it.
 	 */
-	static void Logf(const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, ...);
+	static void Logf(
+		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, ...);
 };
 
 /** Declares a category for a header; DEFINE_LOG_CATEGORY in one source file defines it. */
@@ -43,7 +44,7 @@ struct CORE_API FMsg
 /** Whether a line of this verbosity would be written now. */
 #define UE_LOG_ACTIVE(CategoryName, Verbosity) \
 	(ELogVerbosity::Verbosity <= FLogCategory##CategoryName::CompileTimeVerbosity && \
-	 !CategoryName.IsSuppressed(ELogVerbosity::Verbosity))
+		!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))
 
 /** Writes one line; the arguments are not evaluated when the category suppresses it. */
 #define UE_LOG(CategoryName, Verbosity, Format, ...) \

@@ -79,7 +79,7 @@ struct CORE_API FLinearColor
 	friend uint32 GetTypeHash(const FLinearColor& Color)
 	{
 		return HashCombine(HashCombine(::GetTypeHash(Color.R), ::GetTypeHash(Color.G)),
-						   HashCombine(::GetTypeHash(Color.B), ::GetTypeHash(Color.A)));
+			HashCombine(::GetTypeHash(Color.B), ::GetTypeHash(Color.A)));
 	}
 };
 

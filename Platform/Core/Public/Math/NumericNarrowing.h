@@ -18,8 +18,8 @@
 template <typename To, typename From>
 constexpr To NarrowNumber(From Value)
 {
-	static_assert(std::is_arithmetic_v<To> && std::is_arithmetic_v<From> && !std::is_same_v<To, bool>,
-				  "NarrowNumber is for numbers");
+	static_assert(
+		std::is_arithmetic_v<To> && std::is_arithmetic_v<From> && !std::is_same_v<To, bool>, "NarrowNumber is for numbers");
 
 	using FToLimits = std::numeric_limits<To>;
 	if constexpr (std::is_floating_point_v<To>)
@@ -75,7 +75,7 @@ constexpr To NarrowNumber(From Value)
 			}
 		}
 		return static_cast<unsigned long long>(Value) > static_cast<unsigned long long>(FToLimits::max())
-				   ? FToLimits::max()
-				   : static_cast<To>(Value);
+			? FToLimits::max()
+			: static_cast<To>(Value);
 	}
 }

@@ -39,7 +39,7 @@ struct TRotator
 	bool Equals(const TRotator& R, T Tolerance = T(KINDA_SMALL_NUMBER)) const
 	{
 		return FMath::Abs(NormalizeAxis(Pitch - R.Pitch)) <= Tolerance && FMath::Abs(NormalizeAxis(Yaw - R.Yaw)) <= Tolerance &&
-			   FMath::Abs(NormalizeAxis(Roll - R.Roll)) <= Tolerance;
+			FMath::Abs(NormalizeAxis(Roll - R.Roll)) <= Tolerance;
 	}
 
 	/** The angle in (-180, 180] that turns alike. */

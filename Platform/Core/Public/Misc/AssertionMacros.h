@@ -6,7 +6,8 @@
 struct CORE_API FDebug
 {
 	/** Logs the failure with its call stack, runs the error handlers and ends the process. */
-	[[noreturn]] static void CheckFailed(const ANSICHAR* Expr, const ANSICHAR* File, int32 Line, const TCHAR* Format = TEXT(""), ...);
+	[[noreturn]] static void CheckFailed(
+		const ANSICHAR* Expr, const ANSICHAR* File, int32 Line, const TCHAR* Format = TEXT(""), ...);
 
 	/** Logs the failure with its call stack. @return False, so that a caller can return it as the value of the condition. */
 	static bool EnsureFailed(const ANSICHAR* Expr, const ANSICHAR* File, int32 Line, const TCHAR* Format = TEXT(""), ...);
@@ -55,21 +56,21 @@ struct CORE_API FDebug
 /** The condition's value; a false one is reported the first time that it is met at this place. */
 #define ensure(Expression) \
 	(LIKELY(!!(Expression)) || \
-	 [](const ANSICHAR* Expr) \
-	 { \
-		 static bool bReported = false; \
-		 return !bReported && (bReported = true) && FDebug::EnsureFailed(Expr, __FILE__, __LINE__); \
-	 }(#Expression))
+		[](const ANSICHAR* Expr) \
+		{ \
+			static bool bReported = false; \
+			return !bReported && (bReported = true) && FDebug::EnsureFailed(Expr, __FILE__, __LINE__); \
+		}(#Expression))
 
 #define ensureAlways(Expression) (LIKELY(!!(Expression)) || FDebug::EnsureFailed(#Expression, __FILE__, __LINE__))
 
 #define ensureMsgf(Expression, Format, ...) \
 	(LIKELY(!!(Expression)) || \
-	 [&](const ANSICHAR* Expr) \
-	 { \
-		 static bool bReported = false; \
-		 return !bReported && (bReported = true) && FDebug::EnsureFailed(Expr, __FILE__, __LINE__, Format, ##__VA_ARGS__); \
-	 }(#Expression))
+		[&](const ANSICHAR* Expr) \
+		{ \
+			static bool bReported = false; \
+			return !bReported && (bReported = true) && FDebug::EnsureFailed(Expr, __FILE__, __LINE__, Format, ##__VA_ARGS__); \
+		}(#Expression))
 
 #define ensureAlwaysMsgf(Expression, Format, ...) \
 	(LIKELY(!!(Expression)) || FDebug::EnsureFailed(#Expression, __FILE__, __LINE__, Format, ##__VA_ARGS__))

@@ -16,16 +16,32 @@
 	{ \
 		return Enum(std::underlying_type_t<Enum>(Left) ^ std::underlying_type_t<Enum>(Right)); \
 	} \
-	inline constexpr Enum operator~(Enum Value) { return Enum(~std::underlying_type_t<Enum>(Value)); } \
-	inline constexpr bool operator!(Enum Value) { return !std::underlying_type_t<Enum>(Value); } \
-	inline Enum& operator|=(Enum& Left, Enum Right) { return Left = Left | Right; } \
-	inline Enum& operator&=(Enum& Left, Enum Right) { return Left = Left & Right; } \
-	inline Enum& operator^=(Enum& Left, Enum Right) { return Left = Left ^ Right; }
+	inline constexpr Enum operator~(Enum Value) \
+	{ \
+		return Enum(~std::underlying_type_t<Enum>(Value)); \
+	} \
+	inline constexpr bool operator!(Enum Value) \
+	{ \
+		return !std::underlying_type_t<Enum>(Value); \
+	} \
+	inline Enum& operator|=(Enum& Left, Enum Right) \
+	{ \
+		return Left = Left | Right; \
+	} \
+	inline Enum& operator&=(Enum& Left, Enum Right) \
+	{ \
+		return Left = Left & Right; \
+	} \
+	inline Enum& operator^=(Enum& Left, Enum Right) \
+	{ \
+		return Left = Left ^ Right; \
+	}
 
 template <typename Enum>
 constexpr bool EnumHasAllFlags(Enum Flags, Enum Contains)
 {
-	return (std::underlying_type_t<Enum>(Flags) & std::underlying_type_t<Enum>(Contains)) == std::underlying_type_t<Enum>(Contains);
+	return (std::underlying_type_t<Enum>(Flags) & std::underlying_type_t<Enum>(Contains)) ==
+		std::underlying_type_t<Enum>(Contains);
 }
 
 template <typename Enum>

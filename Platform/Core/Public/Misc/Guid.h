@@ -65,10 +65,10 @@ struct CORE_API FGuid
 
 	friend constexpr bool operator<(const FGuid& Left, const FGuid& Right)
 	{
-		return Left.A != Right.A   ? Left.A < Right.A
-			   : Left.B != Right.B ? Left.B < Right.B
-			   : Left.C != Right.C ? Left.C < Right.C
-								   : Left.D < Right.D;
+		return Left.A != Right.A ? Left.A < Right.A
+			: Left.B != Right.B	 ? Left.B < Right.B
+			: Left.C != Right.C	 ? Left.C < Right.C
+								 : Left.D < Right.D;
 	}
 
 	friend uint32 GetTypeHash(const FGuid& Guid) { return HashCombine(HashCombine(Guid.A, Guid.B), HashCombine(Guid.C, Guid.D)); }

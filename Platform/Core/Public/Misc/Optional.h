@@ -47,8 +47,9 @@ public:
 
 	OptionalType& GetValue()
 	{
-		checkf(IsSet(), TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use "
-							 "Get(DefaultValue) instead."));
+		checkf(IsSet(),
+			TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use "
+				 "Get(DefaultValue) instead."));
 		return *Value;
 	}
 

@@ -33,7 +33,7 @@ struct CORE_API FTimespan
 
 	constexpr FTimespan(int32 Days, int32 Hours, int32 Minutes, int32 Seconds, int32 FractionNano = 0)
 		: Ticks(Days * ETimespan::TicksPerDay + Hours * ETimespan::TicksPerHour + Minutes * ETimespan::TicksPerMinute +
-				Seconds * ETimespan::TicksPerSecond + FractionNano / ETimespan::NanosecondsPerTick)
+			  Seconds * ETimespan::TicksPerSecond + FractionNano / ETimespan::NanosecondsPerTick)
 	{
 	}
 

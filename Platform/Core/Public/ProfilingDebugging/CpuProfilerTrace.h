@@ -34,16 +34,17 @@ class FCpuProfilerScopeStack::FScope : private FLink
 {
 public:
 	FORCEINLINE explicit FScope(DescribeType InDescribe)
-		: FLink{ Innermost, [](const FLink& Link) { return FString(static_cast<const FScope&>(Link).Callable()); } }
+		: FLink{Innermost,
+			  [](const FLink& Link)
+			  {
+				  return FString(static_cast<const FScope&>(Link).Callable());
+			  }}
 		, Callable(static_cast<DescribeType&&>(InDescribe))
 	{
 		Innermost = this;
 	}
 
-	FORCEINLINE ~FScope()
-	{
-		Innermost = Outer;
-	}
+	FORCEINLINE ~FScope() { Innermost = Outer; }
 
 	FScope(const FScope&) = delete;
 	FScope& operator=(const FScope&) = delete;

@@ -85,7 +85,7 @@ bool IsSet(const T& Functor)
 
 template <typename FunctorType, typename Self, typename Ret, typename... ArgTypes>
 using TEnableIfCallable = std::enable_if_t<!std::is_same_v<std::decay_t<FunctorType>, Self> &&
-										   std::is_invocable_r_v<Ret, std::decay_t<FunctorType>&, ArgTypes...>>;
+	std::is_invocable_r_v<Ret, std::decay_t<FunctorType>&, ArgTypes...>>;
 }
 
 /** A copyable function value. Calling an empty one is a programming error. */
@@ -149,7 +149,7 @@ public:
 	TUniqueFunction(decltype(nullptr) = nullptr) {}
 
 	template <typename FunctorType,
-			  typename = FunctionInternals::TEnableIfCallable<FunctorType, TUniqueFunction, Ret, ArgTypes...>>
+		typename = FunctionInternals::TEnableIfCallable<FunctorType, TUniqueFunction, Ret, ArgTypes...>>
 	TUniqueFunction(FunctorType&& Functor)
 	{
 		using FDecayed = std::decay_t<FunctorType>;
@@ -194,8 +194,8 @@ class TFunctionRef<Ret(ArgTypes...)>
 {
 public:
 	template <typename FunctorType,
-			  typename = std::enable_if_t<!std::is_same_v<std::decay_t<FunctorType>, TFunctionRef> &&
-										  std::is_invocable_r_v<Ret, std::remove_reference_t<FunctorType>&, ArgTypes...>>>
+		typename = std::enable_if_t<!std::is_same_v<std::decay_t<FunctorType>, TFunctionRef> &&
+			std::is_invocable_r_v<Ret, std::remove_reference_t<FunctorType>&, ArgTypes...>>>
 	TFunctionRef(FunctorType&& Functor)
 	{
 		using FFunctor = std::remove_reference_t<FunctorType>;

@@ -40,7 +40,7 @@ public:
 	}
 
 	template <typename OtherType, typename DeleterType,
-			  typename = SharedPointerInternals::TEnableIfConvertible<OtherType, ObjectType>>
+		typename = SharedPointerInternals::TEnableIfConvertible<OtherType, ObjectType>>
 	TSharedRef(SharedPointerInternals::TRawPtrProxy<OtherType, DeleterType> Proxy)
 		: Object(Proxy.Object)
 		, Referencer(new SharedPointerInternals::TPointerReferenceController<OtherType, DeleterType, Mode>(
@@ -128,15 +128,15 @@ public:
 	}
 
 	template <typename OtherType, typename DeleterType,
-			  typename = SharedPointerInternals::TEnableIfConvertible<OtherType, ObjectType>>
+		typename = SharedPointerInternals::TEnableIfConvertible<OtherType, ObjectType>>
 	TSharedPtr(SharedPointerInternals::TRawPtrProxy<OtherType, DeleterType> Proxy)
 		: Object(Proxy.Object)
 	{
 		if (Proxy.Object)
 		{
 			Referencer = SharedPointerInternals::TSharedReferencer<Mode>(
-				new SharedPointerInternals::TPointerReferenceController<OtherType, DeleterType, Mode>(Proxy.Object,
-																									  std::move(Proxy.Deleter)));
+				new SharedPointerInternals::TPointerReferenceController<OtherType, DeleterType, Mode>(
+					Proxy.Object, std::move(Proxy.Deleter)));
 			SharedPointerInternals::EnableSharedFromThis<>(Referencer.Get(), Proxy.Object);
 		}
 	}
@@ -358,8 +358,8 @@ protected:
 
 private:
 	template <typename OtherType, ESPMode OtherMode>
-	friend void SharedPointerInternals::EnableSharedFromThis(SharedPointerInternals::TReferenceController<OtherMode>* Controller,
-															 const TSharedFromThis<OtherType, OtherMode>* Object);
+	friend void SharedPointerInternals::EnableSharedFromThis(
+		SharedPointerInternals::TReferenceController<OtherMode>* Controller, const TSharedFromThis<OtherType, OtherMode>* Object);
 
 	void SetReferenceController(SharedPointerInternals::TReferenceController<Mode>* Controller) const
 	{
@@ -385,23 +385,23 @@ TSharedRef<ObjectType, Mode> MakeShared(ArgTypes&&... Args)
 		new SharedPointerInternals::TIntrusiveReferenceController<ObjectType, Mode>(std::forward<ArgTypes>(Args)...);
 	ObjectType* Object = Controller->GetObject();
 	TSharedRef<ObjectType, Mode> Ref(Object, SharedPointerInternals::TSharedReferencer<Mode>(Controller));
-	SharedPointerInternals::EnableSharedFromThis<>(static_cast<SharedPointerInternals::TReferenceController<Mode>*>(Controller),
-												   Object);
+	SharedPointerInternals::EnableSharedFromThis<>(
+		static_cast<SharedPointerInternals::TReferenceController<Mode>*>(Controller), Object);
 	return Ref;
 }
 
 /** Hands an object made with new over to the shared reference or pointer that the result is assigned to. */
 template <typename ObjectType>
-SharedPointerInternals::TRawPtrProxy<ObjectType, SharedPointerInternals::TDefaultDeleter<ObjectType>>
-MakeShareable(ObjectType* Object)
+SharedPointerInternals::TRawPtrProxy<ObjectType, SharedPointerInternals::TDefaultDeleter<ObjectType>> MakeShareable(
+	ObjectType* Object)
 {
 	return {Object, {}};
 }
 
 /** As above, for an object that ends by a call of Deleter(Object). */
 template <typename ObjectType, typename DeleterType>
-SharedPointerInternals::TRawPtrProxy<ObjectType, std::decay_t<DeleterType>> MakeShareable(ObjectType* Object,
-																						  DeleterType&& Deleter)
+SharedPointerInternals::TRawPtrProxy<ObjectType, std::decay_t<DeleterType>> MakeShareable(
+	ObjectType* Object, DeleterType&& Deleter)
 {
 	return {Object, std::forward<DeleterType>(Deleter)};
 }

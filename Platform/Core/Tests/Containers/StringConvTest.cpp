@@ -13,8 +13,12 @@ TEST(StringConv, Utf8AndBackKeepsEveryPlane)
 
 TEST(StringConv, EachBadByteBecomesAQuestionMark)
 {
-	EXPECT_EQ(FString(UTF8_TO_TCHAR("a\xFF" "b")), TEXT("a?b"));
-	EXPECT_EQ(FString(UTF8_TO_TCHAR("\xE2\x82" "b")), TEXT("??b"));
+	EXPECT_EQ(FString(UTF8_TO_TCHAR("a\xFF"
+									"b")),
+		TEXT("a?b"));
+	EXPECT_EQ(FString(UTF8_TO_TCHAR("\xE2\x82"
+									"b")),
+		TEXT("??b"));
 	EXPECT_EQ(FString(UTF8_TO_TCHAR("\xC0\xAF")), TEXT("??")) << "an overlong form";
 	EXPECT_EQ(FString(UTF8_TO_TCHAR("\xED\xA0\x80")), TEXT("???")) << "a surrogate";
 	EXPECT_EQ(FString(UTF8_TO_TCHAR("\xF4\x90\x80\x80")), TEXT("????")) << "behind the last code point";

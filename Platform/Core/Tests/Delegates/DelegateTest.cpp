@@ -48,10 +48,10 @@ TEST(Delegate, PassesThePayloadBehindTheArguments)
 {
 	const TSharedRef<FReceiver> Receiver = MakeShared<FReceiver>();
 	EXPECT_EQ(FTransformNumber::CreateStatic(&AddTo, 10).Execute(1), 11);
-	EXPECT_EQ(FTransformNumber::CreateLambda([](int32 Number, const FString& Text) { return Number + Text.Len(); },
-											 FString(TEXT("abc")))
+	EXPECT_EQ(FTransformNumber::CreateLambda(
+				  [](int32 Number, const FString& Text) { return Number + Text.Len(); }, FString(TEXT("abc")))
 				  .Execute(1),
-			  4);
+		4);
 	FReceiveNumber::CreateSP(Receiver, &FReceiver::ReceiveTimes, 5).Execute(2);
 	EXPECT_EQ(Receiver->Sum, 10);
 }

@@ -27,7 +27,10 @@ TEST(Text, EqualToComparesTextsAndIdenticalToTheirIdentity)
 
 TEST(Text, LocalizedLiteralsOfOneKeyAreIdentical)
 {
-	const auto Make = [] { return LOCTEXT("Save", "Save"); };
+	const auto Make = []
+	{
+		return LOCTEXT("Save", "Save");
+	};
 	EXPECT_TRUE(Make().IdenticalTo(Make()));
 	EXPECT_TRUE(Make().IdenticalTo(NSLOCTEXT("TextTest", "Save", "Save")));
 	EXPECT_FALSE(Make().IdenticalTo(LOCTEXT("Other", "Save")));

@@ -53,7 +53,8 @@ TEST(DefaultValueHelper, ParseIntWantsTheWholeTextButAllowsBlanksAround)
 	EXPECT_EQ(Value, -42);
 	EXPECT_TRUE(FDefaultValueHelper::ParseInt(TEXT("+2147483647"), Value));
 	EXPECT_EQ(Value, MAX_int32);
-	for (const TCHAR* Text : {TEXT(""), TEXT(" "), TEXT("-"), TEXT("1.0"), TEXT("12a"), TEXT("1 2"), TEXT("2147483648"), TEXT("--1")})
+	for (const TCHAR* Text :
+		{TEXT(""), TEXT(" "), TEXT("-"), TEXT("1.0"), TEXT("12a"), TEXT("1 2"), TEXT("2147483648"), TEXT("--1")})
 	{
 		EXPECT_FALSE(FDefaultValueHelper::ParseInt(Text, Value)) << TCHAR_TO_UTF8(Text);
 	}

@@ -7,7 +7,10 @@ namespace
 class FTaker final : public FSelfRegisteringExec
 {
 public:
-	explicit FTaker(const TCHAR* InTaken) : Taken(InTaken) {}
+	explicit FTaker(const TCHAR* InTaken)
+		: Taken(InTaken)
+	{
+	}
 
 	virtual bool Exec(UWorld*, const TCHAR* Cmd, FOutputDevice&) override
 	{

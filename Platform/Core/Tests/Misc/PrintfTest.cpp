@@ -29,7 +29,8 @@ TEST(Printf, PrintsTextOfBothWidths)
 
 TEST(Printf, WidthPrecisionAndFlagsOfIntegers)
 {
-	EXPECT_EQ(FString::Printf(TEXT("%05d|%+d|% d|%-6d|%.3d|%3d"), 42, 42, 42, 42, 7, 12345), TEXT("00042|+42| 42|42    |007|12345"));
+	EXPECT_EQ(
+		FString::Printf(TEXT("%05d|%+d|% d|%-6d|%.3d|%3d"), 42, 42, 42, 42, 7, 12345), TEXT("00042|+42| 42|42    |007|12345"));
 	EXPECT_EQ(FString::Printf(TEXT("%.*f"), 1, 0.25), TEXT("0.2"));
 }
 

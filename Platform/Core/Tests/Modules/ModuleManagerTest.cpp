@@ -99,7 +99,8 @@ TEST_F(ModuleManager, LibraryOfAPluginIsFoundInABinariesDirectory)
 {
 	const FTempProject Project;
 	const FString Library = FString(FPlatformProcess::BaseDir()) + TEXT("libCoreTestModule.so");
-	IFileManager::Get().Copy(*Project.Path(TEXT("Binaries/Linux/libKestrixEditor-PluginModule" KESTRIX_BUILD_SUFFIX ".so")), *Library);
+	IFileManager::Get().Copy(
+		*Project.Path(TEXT("Binaries/Linux/libKestrixEditor-PluginModule" KESTRIX_BUILD_SUFFIX ".so")), *Library);
 	EXPECT_FALSE(Modules.ModuleExists(TEXT("PluginModule")));
 
 	Modules.AddBinariesDirectory(*Project.Path(TEXT("Binaries/Linux")), false);

@@ -65,7 +65,8 @@ bool FPackageName::MountPointExists(const FString& RootPath)
 	return MountPoints().ContainsByPredicate([&Root](const FMountPoint& Point) { return Point.Root == Root; });
 }
 
-bool FPackageName::TryConvertLongPackageNameToFilename(const FString& InLongPackageName, FString& OutFilename, const FString& InExtension)
+bool FPackageName::TryConvertLongPackageNameToFilename(
+	const FString& InLongPackageName, FString& OutFilename, const FString& InExtension)
 {
 	for (const FMountPoint& Point : MountPoints())
 	{
@@ -78,7 +79,8 @@ bool FPackageName::TryConvertLongPackageNameToFilename(const FString& InLongPack
 	return false;
 }
 
-bool FPackageName::TryConvertFilenameToLongPackageName(const FString& InFilename, FString& OutPackageName, FString* OutFailureReason)
+bool FPackageName::TryConvertFilenameToLongPackageName(
+	const FString& InFilename, FString& OutPackageName, FString* OutFailureReason)
 {
 	const FString Filename = FPaths::ConvertRelativePathToFull(InFilename);
 	for (const FMountPoint& Point : MountPoints())
@@ -87,7 +89,8 @@ bool FPackageName::TryConvertFilenameToLongPackageName(const FString& InFilename
 		{
 			const FString Relative = Filename.RightChop(Point.Folder.Len());
 			const FString Directory = FPaths::GetPath(Relative);
-			OutPackageName = Point.Root + (Directory.IsEmpty() ? FString() : Directory + TEXT("/")) + FPaths::GetBaseFilename(Relative);
+			OutPackageName =
+				Point.Root + (Directory.IsEmpty() ? FString() : Directory + TEXT("/")) + FPaths::GetBaseFilename(Relative);
 			return true;
 		}
 	}
@@ -107,7 +110,8 @@ bool FPackageName::DoesPackageExist(const FString& LongPackageName, FString* Out
 	for (const FString& Extension : {GetAssetPackageExtension(), GetMapPackageExtension()})
 	{
 		FString Filename;
-		if (TryConvertLongPackageNameToFilename(LongPackageName, Filename, Extension) && IFileManager::Get().FileExists(*Filename))
+		if (TryConvertLongPackageNameToFilename(LongPackageName, Filename, Extension) &&
+			IFileManager::Get().FileExists(*Filename))
 		{
 			if (OutFilename)
 			{

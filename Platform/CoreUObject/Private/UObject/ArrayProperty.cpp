@@ -80,8 +80,8 @@ void FArrayProperty::AddTypeReferences(FReferenceCollector& Collector) const
 	Inner->AddTypeReferences(Collector);
 }
 
-void FArrayProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FArrayProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptArrayHelper Helper(this, PropertyValue);
 	ValueStr += TEXT("(");
@@ -116,7 +116,8 @@ bool FArrayProperty::IsSameTypeAs(const FProperty& Other) const
 	return Inner->SameType(OtherArray.Inner);
 }
 
-const TCHAR* FArrayProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FArrayProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	FScriptArrayHelper Helper(this, Data);
@@ -128,7 +129,8 @@ const TCHAR* FArrayProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 
 	while (!Reader.TakeIf(u')'))
 	{
 		const int32 Index = Helper.AddValue();
-		const TCHAR* const Next = Inner->ImportText(Reader.Place(), Helper.GetRawPtr(Index), PortFlags | PPF_Delimited, OwnerObject, ErrorText);
+		const TCHAR* const Next =
+			Inner->ImportText(Reader.Place(), Helper.GetRawPtr(Index), PortFlags | PPF_Delimited, OwnerObject, ErrorText);
 		if (!Next)
 		{
 			return nullptr;

@@ -40,13 +40,14 @@ bool FBoolProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 	return GetPropertyValue(A) == (B && GetPropertyValue(B));
 }
 
-void FBoolProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FBoolProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += GetPropertyValue(PropertyValue) ? TEXT("True") : TEXT("False");
 }
 
-const TCHAR* FBoolProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FBoolProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	const FString Word = Reader.TakeWord();

@@ -57,7 +57,8 @@ bool UObject::CallFunctionByNameWithArguments(const TCHAR* Cmd, FOutputDevice& A
 	const FParameterBlock Block(*Function);
 	for (const FProperty* Parameter : TFieldRange<FProperty>(Function))
 	{
-		const bool bOnlyOut = Parameter->HasAnyPropertyFlags(CPF_OutParm) && !Parameter->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ConstParm);
+		const bool bOnlyOut =
+			Parameter->HasAnyPropertyFlags(CPF_OutParm) && !Parameter->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ConstParm);
 		if (bOnlyOut || Parameter->HasAnyPropertyFlags(CPF_ReturnParm))
 		{
 			continue;

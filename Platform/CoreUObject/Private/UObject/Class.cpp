@@ -65,7 +65,8 @@ UObject* UClass::GetDefaultObject(bool bCreateIfNeeded) const
 UFunction* UClass::FindFunctionByName(FName InName, EIncludeSuperFlag::Type IncludeSuper) const
 {
 	UFunction* Function = nullptr;
-	for (const UClass* Class = this; Class && !Function; Class = IncludeSuper == EIncludeSuperFlag::IncludeSuper ? Class->GetSuperClass() : nullptr)
+	for (const UClass* Class = this; Class && !Function;
+		 Class = IncludeSuper == EIncludeSuperFlag::IncludeSuper ? Class->GetSuperClass() : nullptr)
 	{
 		Function = Class->FuncMap.FindRef(InName);
 	}

@@ -21,7 +21,8 @@ FString NameToDisplayString(const FString& Name, bool bIsBool)
 		}
 		const TCHAR Before = Name[Index - 1];
 		const bool bAfterLower = FChar::IsUpper(Char) && FChar::IsLower(Before);
-		const bool bBeforeLower = FChar::IsUpper(Char) && FChar::IsUpper(Before) && Index + 1 < Name.Len() && FChar::IsLower(Name[Index + 1]);
+		const bool bBeforeLower =
+			FChar::IsUpper(Char) && FChar::IsUpper(Before) && Index + 1 < Name.Len() && FChar::IsLower(Name[Index + 1]);
 		const bool bFirstDigit = FChar::IsDigit(Char) && FChar::IsLower(Before);
 		if (bAfterLower || bBeforeLower || bFirstDigit)
 		{

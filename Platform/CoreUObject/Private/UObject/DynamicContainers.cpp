@@ -21,10 +21,7 @@ public:
 
 	int32 GetSize() const override { return sizeof(FRawArray); }
 	void Construct(void* Array) const override { ::new (Array) FRawArray{nullptr, 0, 0}; }
-	void Destruct(void* Array) const override
-	{
-		Empty(Array, 0);
-	}
+	void Destruct(void* Array) const override { Empty(Array, 0); }
 	int32 Num(const void* Array) const override { return In(Array).Num; }
 	void* GetData(const void* Array) const override { return In(Array).Data; }
 

@@ -59,7 +59,8 @@ FText UEnum::GetDisplayNameTextByValue(int64 InValue) const
 
 FText UEnum::GetToolTipTextByIndex(int32 InIndex) const
 {
-	return HasMetaData(TEXT("ToolTip"), InIndex) ? FText::FromString(GetMetaData(TEXT("ToolTip"), InIndex)) : GetDisplayNameTextByIndex(InIndex);
+	return HasMetaData(TEXT("ToolTip"), InIndex) ? FText::FromString(GetMetaData(TEXT("ToolTip"), InIndex))
+												 : GetDisplayNameTextByIndex(InIndex);
 }
 
 int64 UEnum::GetValueByIndex(int32 Index) const

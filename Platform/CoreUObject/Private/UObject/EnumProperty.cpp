@@ -53,8 +53,8 @@ bool FEnumProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 	return UnderlyingProp->Identical(A, B, PortFlags);
 }
 
-void FEnumProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FEnumProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ExportEnumText(ValueStr, *Enum, UnderlyingProp->GetSignedIntPropertyValue(PropertyValue));
 }
@@ -79,7 +79,8 @@ bool FEnumProperty::IsSameTypeAs(const FProperty& Other) const
 	return Enum == static_cast<const FEnumProperty&>(Other).Enum;
 }
 
-const TCHAR* FEnumProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FEnumProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	return ImportEnumText(Buffer, *Enum, *UnderlyingProp, Data);
 }

@@ -13,7 +13,8 @@ UObject* FindInAnyPackage(const UClass* Class, FName Name, bool bExactClass)
 {
 	for (const FObjectItem& Item : FObjectTable::Get().GetItems())
 	{
-		if (Item.Object && Item.Object->GetFName() == Name && Item.Object->GetOuter() && IsOfClass(Item.Object, Class, bExactClass))
+		if (Item.Object && Item.Object->GetFName() == Name && Item.Object->GetOuter() &&
+			IsOfClass(Item.Object, Class, bExactClass))
 		{
 			return Item.Object;
 		}
@@ -104,7 +105,8 @@ UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, 
 	UClass* const Class = static_cast<UClass*>(StaticLoadObject(UClass::StaticClass(), InOuter, Name, Filename, LoadFlags));
 	if (Class && !Class->IsChildOf(BaseClass))
 	{
-		UE_LOG(LogUObjectGlobals, Warning, TEXT("%s is not a child class of %s"), *Class->GetFullName(), *BaseClass->GetFullName());
+		UE_LOG(
+			LogUObjectGlobals, Warning, TEXT("%s is not a child class of %s"), *Class->GetFullName(), *BaseClass->GetFullName());
 		return nullptr;
 	}
 	return Class;

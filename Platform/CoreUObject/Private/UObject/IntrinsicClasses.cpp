@@ -6,38 +6,38 @@
 namespace
 {
 constexpr UECodeGen::FMetaDataPair GObjectMetaData[] = {
-	{ "BlueprintType", "true" },
-	{ "IsBlueprintBase", "true" },
-	{ "ToolTip", "The base class of all objects." },
+	{"BlueprintType", "true"},
+	{"IsBlueprintBase", "true"},
+	{"ToolTip", "The base class of all objects."},
 };
 
 constexpr UECodeGen::FMetaDataPair GClassMetaData[] = {
-	{ "BlueprintType", "true" },
-	{ "ToolTip", "The class of an object." },
+	{"BlueprintType", "true"},
+	{"ToolTip", "The class of an object."},
 };
 
 constexpr UECodeGen::FMetaDataPair GPackageMetaData[] = {
-	{ "ToolTip", "What is saved as one file, or the types of one module." },
+	{"ToolTip", "What is saved as one file, or the types of one module."},
 };
 
 constexpr UECodeGen::FMetaDataPair GStructMetaData[] = {
-	{ "ToolTip", "Something with properties." },
+	{"ToolTip", "Something with properties."},
 };
 
 constexpr UECodeGen::FMetaDataPair GScriptStructMetaData[] = {
-	{ "ToolTip", "The type of a structure." },
+	{"ToolTip", "The type of a structure."},
 };
 
 constexpr UECodeGen::FMetaDataPair GFunctionMetaData[] = {
-	{ "ToolTip", "A function that scripts can call." },
+	{"ToolTip", "A function that scripts can call."},
 };
 
 constexpr UECodeGen::FMetaDataPair GEnumMetaData[] = {
-	{ "ToolTip", "The type of an enumeration." },
+	{"ToolTip", "The type of an enumeration."},
 };
 
 constexpr UECodeGen::FMetaDataPair GFieldMetaData[] = {
-	{ "ToolTip", "A named part of a type, or a type." },
+	{"ToolTip", "A named part of a type, or a type."},
 };
 }
 
@@ -46,8 +46,8 @@ constexpr UECodeGen::FMetaDataPair GFieldMetaData[] = {
 	{ \
 		static UClass* Result = nullptr; \
 		static const UECodeGen::FClassParams Params = {"/Script/CoreUObject", &#TClass[1], SuperFunction, \
-			CLASS_Native | CLASS_Intrinsic | CLASS_RequiredAPI | (Flags), sizeof(TClass), alignof(TClass), &TClass::__DefaultConstructor, \
-			&TClass::AddReferencedObjects, {}, {}, MetaData, nullptr, CastFlag}; \
+			CLASS_Native | CLASS_Intrinsic | CLASS_RequiredAPI | (Flags), sizeof(TClass), alignof(TClass), \
+			&TClass::__DefaultConstructor, &TClass::AddReferencedObjects, {}, {}, MetaData, nullptr, CastFlag}; \
 		return Result ? Result : UECodeGen::ConstructClass(Result, Params); \
 	} \
 	static const UECodeGen::FAutoRegister AutoRegister_##TClass(&TClass::StaticClass);

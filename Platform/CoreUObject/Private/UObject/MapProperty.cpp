@@ -98,8 +98,8 @@ void FMapProperty::AddTypeReferences(FReferenceCollector& Collector) const
 	ValueProp->AddTypeReferences(Collector);
 }
 
-void FMapProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FMapProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptMapHelper Helper(this, PropertyValue);
 	ValueStr += TEXT("(");
@@ -109,9 +109,11 @@ void FMapProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, 
 		if (Helper.IsValidIndex(Index))
 		{
 			ValueStr += bFirst ? TEXT("(") : TEXT(",(");
-			KeyProp->ExportTextItem(ValueStr, Helper.GetKeyPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+			KeyProp->ExportTextItem(
+				ValueStr, Helper.GetKeyPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 			ValueStr += TEXT(", ");
-			ValueProp->ExportTextItem(ValueStr, Helper.GetValuePtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+			ValueProp->ExportTextItem(
+				ValueStr, Helper.GetValuePtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 			ValueStr += TEXT(")");
 			bFirst = false;
 		}
@@ -145,7 +147,8 @@ bool FMapProperty::IsSameTypeAs(const FProperty& Other) const
 	return IsNative() == OtherMap.IsNative() && KeyProp->SameType(OtherMap.KeyProp) && ValueProp->SameType(OtherMap.ValueProp);
 }
 
-const TCHAR* FMapProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FMapProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	FScriptMapHelper Helper(this, Data);
@@ -167,8 +170,8 @@ const TCHAR* FMapProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 Po
 	{
 		const FPropertyValue Key(*KeyProp);
 		const FPropertyValue Value(*ValueProp);
-		if (!Reader.TakeIf(u'(') || !ImportPart(*KeyProp, Key.Get()) || !Reader.TakeIf(u',') || !ImportPart(*ValueProp, Value.Get())
-			|| !Reader.TakeIf(u')'))
+		if (!Reader.TakeIf(u'(') || !ImportPart(*KeyProp, Key.Get()) || !Reader.TakeIf(u',') ||
+			!ImportPart(*ValueProp, Value.Get()) || !Reader.TakeIf(u')'))
 		{
 			return nullptr;
 		}

@@ -15,6 +15,7 @@ namespace
 template <typename T>
 const TCHAR* NumericTypeName();
 
+// clang-format off
 template <> const TCHAR* NumericTypeName<int8>() { return TEXT("int8"); }
 template <> const TCHAR* NumericTypeName<int16>() { return TEXT("int16"); }
 template <> const TCHAR* NumericTypeName<int32>() { return TEXT("int32"); }
@@ -25,6 +26,7 @@ template <> const TCHAR* NumericTypeName<uint32>() { return TEXT("uint32"); }
 template <> const TCHAR* NumericTypeName<uint64>() { return TEXT("uint64"); }
 template <> const TCHAR* NumericTypeName<float>() { return TEXT("float"); }
 template <> const TCHAR* NumericTypeName<double>() { return TEXT("double"); }
+// clang-format on
 
 /** The whole word as a number of that type. */
 template <typename T>
@@ -69,7 +71,8 @@ FString FNumericProperty::GetNumericPropertyValueToString(const void* Data) cons
 	{
 		return FString::Printf(TEXT("%f"), GetFloatingPointPropertyValue(Data));
 	}
-	return IsSigned() ? FString::Printf(TEXT("%lld"), GetSignedIntPropertyValue(Data)) : FString::Printf(TEXT("%llu"), GetUnsignedIntPropertyValue(Data));
+	return IsSigned() ? FString::Printf(TEXT("%lld"), GetSignedIntPropertyValue(Data))
+					  : FString::Printf(TEXT("%llu"), GetUnsignedIntPropertyValue(Data));
 }
 
 template <typename T>
@@ -97,14 +100,15 @@ bool TProperty_Numeric<T>::SetNumericPropertyValueFromString(void* Data, const T
 }
 
 template <typename T>
-void TProperty_Numeric<T>::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void TProperty_Numeric<T>::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += this->GetNumericPropertyValueToString(PropertyValue);
 }
 
 template <typename T>
-const TCHAR* TProperty_Numeric<T>::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* TProperty_Numeric<T>::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	T Number;
@@ -132,8 +136,8 @@ FString FByteProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFla
 	return Enum ? TEXT("TEnumAsByte<") + Enum->CppType + TEXT(">") : FString(TEXT("uint8"));
 }
 
-void FByteProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FByteProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (Enum)
 	{
@@ -143,7 +147,8 @@ void FByteProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue,
 	TProperty_Numeric<uint8>::ExportTextItem(ValueStr, PropertyValue, DefaultValue, Parent, PortFlags, ExportRootScope);
 }
 
-const TCHAR* FByteProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FByteProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	return Enum ? ImportEnumText(Buffer, *Enum, *this, Data)
 				: TProperty_Numeric<uint8>::ImportValue(Buffer, Data, PortFlags, OwnerObject, ErrorText);

@@ -25,8 +25,8 @@ UWorld* UObject::GetWorld() const
 
 bool UObject::IsAsset() const
 {
-	return HasAnyFlags(RF_Public) && !HasAnyFlags(RF_Transient | RF_ClassDefaultObject | RF_Garbage | RF_PendingKill) && GetOuter()
-		   && GetOuter()->IsA<UPackage>() && !GetOuter()->HasAnyFlags(RF_Transient);
+	return HasAnyFlags(RF_Public) && !HasAnyFlags(RF_Transient | RF_ClassDefaultObject | RF_Garbage | RF_PendingKill) &&
+		GetOuter() && GetOuter()->IsA<UPackage>() && !GetOuter()->HasAnyFlags(RF_Transient);
 }
 
 bool UObject::Modify(bool bAlwaysMarkDirty)
@@ -59,7 +59,8 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, uint32 Flags)
 	const UObject* const Taken = FObjectTable::Get().FindInOuter(Outer, Name);
 	if (Taken && Taken != this)
 	{
-		UE_LOG(LogObj, Fatal, TEXT("Renaming an object (%s) on top of an existing object (%s) is not allowed"), *GetFullName(), *Taken->GetFullName());
+		UE_LOG(LogObj, Fatal, TEXT("Renaming an object (%s) on top of an existing object (%s) is not allowed"), *GetFullName(),
+			*Taken->GetFullName());
 	}
 	MarkPackageDirty();
 	FObjectTable::Get().SetNameAndOuter(*this, Name, Outer);

@@ -68,14 +68,15 @@ void FObjectPropertyBase::AddTypeReferences(FReferenceCollector& Collector) cons
 	Collector.HandleFixedReference(PropertyClass);
 }
 
-void FObjectPropertyBase::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FObjectPropertyBase::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const UObject* const Object = GetObjectPropertyValue(PropertyValue);
 	ValueStr += Object ? Object->GetClass()->GetName() + TEXT("'") + Object->GetPathName() + TEXT("'") : FString(TEXT("None"));
 }
 
-const TCHAR* FObjectPropertyBase::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FObjectPropertyBase::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	const FString Path = TakeObjectPath(Reader);

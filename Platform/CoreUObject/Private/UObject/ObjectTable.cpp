@@ -31,7 +31,8 @@ void FObjectTable::Adopt(UObjectBase& Object)
 
 	FObjectItem& Item = Items[Object.InternalIndex];
 	Item.Object = static_cast<UObject*>(&Object);
-	Item.Flags = (PendingHeader.Flags & RF_MarkAsRootSet) != RF_NoFlags ? EInternalObjectFlags::RootSet : EInternalObjectFlags::None;
+	Item.Flags =
+		(PendingHeader.Flags & RF_MarkAsRootSet) != RF_NoFlags ? EInternalObjectFlags::RootSet : EInternalObjectFlags::None;
 	Item.SerialNumber = ++LastSerialNumber;
 	Names.Add({Object.OuterPrivate, Object.NamePrivate}, Item.Object);
 }

@@ -54,7 +54,10 @@ public:
 	FObjectItem& ItemOf(const UObjectBase* Object) { return Items[Object->InternalIndex]; }
 	TArray<FObjectItem>& GetItems() { return Items; }
 	/** Null for an index that is free. */
-	const FObjectItem* FindItem(int32 Index) const { return Items.IsValidIndex(Index) && Items[Index].Object ? &Items[Index] : nullptr; }
+	const FObjectItem* FindItem(int32 Index) const
+	{
+		return Items.IsValidIndex(Index) && Items[Index].Object ? &Items[Index] : nullptr;
+	}
 	UObject* FindInOuter(const UObject* Outer, FName Name) const;
 
 	void Lock() { ++NumLocks; }

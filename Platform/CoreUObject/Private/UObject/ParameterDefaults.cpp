@@ -11,8 +11,8 @@ bool ImportNumbers(const UScriptStruct& Struct, const FString& Text, void* Value
 	for (const FProperty* Member : TFieldRange<FProperty>(&Struct))
 	{
 		const FNumericProperty* const Number = CastField<FNumericProperty>(Member);
-		if (!Number || !Numbers.IsValidIndex(Index)
-			|| !Number->SetNumericPropertyValueFromString(Member->ContainerPtrToValuePtr<void>(Value), *Numbers[Index]))
+		if (!Number || !Numbers.IsValidIndex(Index) ||
+			!Number->SetNumericPropertyValueFromString(Member->ContainerPtrToValuePtr<void>(Value), *Numbers[Index]))
 		{
 			return false;
 		}

@@ -94,7 +94,8 @@ uint32 FProperty::GetValueTypeHash(const void* Src) const
 	return HashValue(Src);
 }
 
-bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FProperty::ExportText_Direct(
+	FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (Data == Delta || (Delta && Identical(Data, Delta, PortFlags)))
 	{
@@ -104,14 +105,15 @@ bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const voi
 	return true;
 }
 
-bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
-	return ExportText_Direct(ValueStr, ContainerPtrToValuePtr<void>(Data, Index), Delta ? ContainerPtrToValuePtr<void>(Delta, Index) : nullptr,
-		Parent, PortFlags, ExportRootScope);
+	return ExportText_Direct(ValueStr, ContainerPtrToValuePtr<void>(Data, Index),
+		Delta ? ContainerPtrToValuePtr<void>(Delta, Index) : nullptr, Parent, PortFlags, ExportRootScope);
 }
 
-const TCHAR* FProperty::ImportText(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FProperty::ImportText(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	if (!Buffer)
 	{
@@ -120,7 +122,9 @@ const TCHAR* FProperty::ImportText(const TCHAR* Buffer, void* Data, int32 PortFl
 	const TCHAR* const End = ImportValue(Buffer, Data, PortFlags, OwnerObject, ErrorText);
 	if (!End)
 	{
-		FTextReader::Fail(ErrorText, *FString::Printf(TEXT("ImportText (%s): expected a value of type %s, found '%s'"), *GetName(), *GetCPPType(), Buffer));
+		FTextReader::Fail(ErrorText,
+			*FString::Printf(
+				TEXT("ImportText (%s): expected a value of type %s, found '%s'"), *GetName(), *GetCPPType(), Buffer));
 	}
 	return End;
 }

@@ -111,7 +111,8 @@ private:
 	static T* Allocate(const char* Name)
 	{
 		void* const Memory = FMemory::MallocZeroed(sizeof(T));
-		FObjectTable::Get().BeginConstruction(Memory, {nullptr, nullptr, FName(Name), RF_Public | RF_MarkAsNative | RF_Transient});
+		FObjectTable::Get().BeginConstruction(
+			Memory, {nullptr, nullptr, FName(Name), RF_Public | RF_MarkAsNative | RF_Transient});
 		T* const Object = ::new (Memory) T;
 		FObjectTable::Get().ItemOf(Object).Flags |= EInternalObjectFlags::Native;
 		return Object;
@@ -175,7 +176,8 @@ private:
 		AddProperties(Class, Params.Size, Params.Properties);
 		for (const FFunctionParams& FunctionParams : Params.Functions)
 		{
-			UFunction* const Function = NewObject<UFunction>(&Class, FName(FunctionParams.Name), RF_Public | RF_MarkAsNative | RF_Transient);
+			UFunction* const Function =
+				NewObject<UFunction>(&Class, FName(FunctionParams.Name), RF_Public | RF_MarkAsNative | RF_Transient);
 			Function->FunctionFlags = FunctionParams.Flags;
 			Function->PropertiesSize = FunctionParams.ParmsSize;
 			Function->MinAlignment = FunctionParams.ParmsAlignment;

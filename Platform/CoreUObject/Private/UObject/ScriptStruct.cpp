@@ -125,7 +125,8 @@ void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void*
 		for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
 		{
 			FString Member;
-			if (!Property->ExportText_InContainer(Index, Member, Value, Defaults, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope))
+			if (!Property->ExportText_InContainer(
+					Index, Member, Value, Defaults, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope))
 			{
 				continue;
 			}
@@ -142,8 +143,8 @@ void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void*
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText,
-	const FString& StructName) const
+const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags,
+	FOutputDevice* ErrorText, const FString& StructName) const
 {
 	if (CppStructOps && CppStructOps->ImportText)
 	{
@@ -166,10 +167,11 @@ const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject
 		}
 		if (!Property || Index < 0 || Index >= Property->ArrayDim || !Reader.TakeIf(u'='))
 		{
-			return Reader.Fail(ErrorText, *FString::Printf(TEXT("%s: expected the name of a member and '=', found '%s'"), *StructName, *Name));
+			return Reader.Fail(
+				ErrorText, *FString::Printf(TEXT("%s: expected the name of a member and '=', found '%s'"), *StructName, *Name));
 		}
-		const TCHAR* const Next =
-			Property->ImportText(Reader.Place(), Property->ContainerPtrToValuePtr<void>(Value, Index), PortFlags | PPF_Delimited, OwnerObject, ErrorText);
+		const TCHAR* const Next = Property->ImportText(Reader.Place(), Property->ContainerPtrToValuePtr<void>(Value, Index),
+			PortFlags | PPF_Delimited, OwnerObject, ErrorText);
 		if (!Next)
 		{
 			return nullptr;

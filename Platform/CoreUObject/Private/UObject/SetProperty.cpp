@@ -85,8 +85,8 @@ void FSetProperty::AddTypeReferences(FReferenceCollector& Collector) const
 	ElementProp->AddTypeReferences(Collector);
 }
 
-void FSetProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FSetProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptSetHelper Helper(this, PropertyValue);
 	ValueStr += TEXT("(");
@@ -96,7 +96,8 @@ void FSetProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, 
 		if (Helper.IsValidIndex(Index))
 		{
 			ValueStr += bFirst ? TEXT("") : TEXT(",");
-			ElementProp->ExportTextItem(ValueStr, Helper.GetElementPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+			ElementProp->ExportTextItem(
+				ValueStr, Helper.GetElementPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 			bFirst = false;
 		}
 	}
@@ -129,7 +130,8 @@ bool FSetProperty::IsSameTypeAs(const FProperty& Other) const
 	return IsNative() == OtherSet.IsNative() && ElementProp->SameType(OtherSet.ElementProp);
 }
 
-const TCHAR* FSetProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FSetProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	FScriptSetHelper Helper(this, Data);
@@ -141,7 +143,8 @@ const TCHAR* FSetProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 Po
 	while (!Reader.TakeIf(u')'))
 	{
 		const FPropertyValue Element(*ElementProp);
-		const TCHAR* const Next = ElementProp->ImportText(Reader.Place(), Element.Get(), PortFlags | PPF_Delimited, OwnerObject, ErrorText);
+		const TCHAR* const Next =
+			ElementProp->ImportText(Reader.Place(), Element.Get(), PortFlags | PPF_Delimited, OwnerObject, ErrorText);
 		if (!Next)
 		{
 			return nullptr;

@@ -31,13 +31,14 @@ uint32 FStrProperty::HashValue(const void* Src) const
 	return GetTypeHash(GetPropertyValue(Src));
 }
 
-void FStrProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FStrProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	AppendQuotedIfDelimited(ValueStr, GetPropertyValue(PropertyValue), PortFlags);
 }
 
-const TCHAR* FStrProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FStrProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	SetPropertyValue(Data, TakeText(Reader, PortFlags));
@@ -65,13 +66,14 @@ uint32 FNameProperty::HashValue(const void* Src) const
 	return GetTypeHash(GetPropertyValue(Src));
 }
 
-void FNameProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FNameProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	AppendQuotedIfDelimited(ValueStr, GetPropertyValue(PropertyValue).ToString(), PortFlags);
 }
 
-const TCHAR* FNameProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FNameProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	SetPropertyValue(Data, FName(*TakeText(Reader, PortFlags)));
@@ -99,13 +101,14 @@ uint32 FTextProperty::HashValue(const void* Src) const
 	return 0;
 }
 
-void FTextProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FTextProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	AppendQuotedIfDelimited(ValueStr, GetPropertyValue(PropertyValue).ToString(), PortFlags);
 }
 
-const TCHAR* FTextProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FTextProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	FTextReader Reader(Buffer);
 	SetPropertyValue(Data, FText::FromString(TakeText(Reader, PortFlags)));

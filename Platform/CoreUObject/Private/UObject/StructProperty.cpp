@@ -85,8 +85,8 @@ void FStructProperty::AddTypeReferences(FReferenceCollector& Collector) const
 	Collector.HandleFixedReference(Struct);
 }
 
-void FStructProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-	UObject* ExportRootScope) const
+void FStructProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	Struct->ExportText(ValueStr, PropertyValue, DefaultValue, Parent, PortFlags, ExportRootScope);
 }
@@ -116,7 +116,8 @@ bool FStructProperty::IsSameTypeAs(const FProperty& Other) const
 	return Struct == static_cast<const FStructProperty&>(Other).Struct;
 }
 
-const TCHAR* FStructProperty::ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
+const TCHAR* FStructProperty::ImportValue(
+	const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
 	return Struct->ImportText(Buffer, Data, OwnerObject, PortFlags, ErrorText, Struct->GetName());
 }

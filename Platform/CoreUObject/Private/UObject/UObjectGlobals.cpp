@@ -30,7 +30,8 @@ const UClass* NativeClassOf(const UClass* Class)
 template <typename OperationType>
 void ForEachDynamicProperty(const UClass* Class, OperationType Operation)
 {
-	for (const UStruct* Struct = Class; !static_cast<const UClass*>(Struct)->HasAnyClassFlags(CLASS_Native); Struct = Struct->GetSuperStruct())
+	for (const UStruct* Struct = Class; !static_cast<const UClass*>(Struct)->HasAnyClassFlags(CLASS_Native);
+		 Struct = Struct->GetSuperStruct())
 	{
 		for (const FProperty* Property : TFieldRange<FProperty>(Struct, EFieldIteratorFlags::ExcludeSuper))
 		{
@@ -55,7 +56,8 @@ void InitializeProperties(UObject* Object, UObject* Template)
 	}
 	for (const FProperty* Property : TFieldRange<FProperty>(Source->GetClass()))
 	{
-		if (Class->IsChildOf(Property->GetOwnerClass()) && (!Property->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient) || !Template))
+		if (Class->IsChildOf(Property->GetOwnerClass()) &&
+			(!Property->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient) || !Template))
 		{
 			Property->CopyCompleteValue_InContainer(Object, Source);
 		}
@@ -128,7 +130,8 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 
 void DestructObject(UObject* Object)
 {
-	ForEachDynamicProperty(Object->GetClass(), [Object](const FProperty& Property) { Property.DestroyValue_InContainer(Object); });
+	ForEachDynamicProperty(
+		Object->GetClass(), [Object](const FProperty& Property) { Property.DestroyValue_InContainer(Object); });
 	// The destructor is virtual in the root, which only this function may ask for it.
 	Object->~UObject();
 }
@@ -190,12 +193,14 @@ void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool b
 	}
 }
 
-void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags)
+void GetObjectsOfClass(
+	const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags)
 {
 	for (const FObjectItem& Item : FObjectTable::Get().GetItems())
 	{
 		const UClass* const Class = Item.Object ? Item.Object->GetClass() : nullptr;
-		if (Class && !Item.Object->HasAnyFlags(ExcludeFlags) && (Class == ClassToLookFor || (bIncludeDerivedClasses && Class->IsChildOf(ClassToLookFor))))
+		if (Class && !Item.Object->HasAnyFlags(ExcludeFlags) &&
+			(Class == ClassToLookFor || (bIncludeDerivedClasses && Class->IsChildOf(ClassToLookFor))))
 		{
 			Results.Add(Item.Object);
 		}
@@ -209,7 +214,8 @@ void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, b
 		if (Item.Object && Item.Object->IsA<UClass>())
 		{
 			UClass* const Class = static_cast<UClass*>(Item.Object);
-			if (Class != ClassToLookFor && (bRecursive ? Class->IsChildOf(ClassToLookFor) : Class->GetSuperClass() == ClassToLookFor))
+			if (Class != ClassToLookFor &&
+				(bRecursive ? Class->IsChildOf(ClassToLookFor) : Class->GetSuperClass() == ClassToLookFor))
 			{
 				Results.Add(Class);
 			}

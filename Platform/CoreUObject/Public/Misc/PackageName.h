@@ -16,15 +16,18 @@ public:
 	static bool MountPointExists(const FString& RootPath);
 
 	/** "/Game/Dir/Name" as "<Project>/Content/Dir/Name" and the extension. False if the root is not mounted. */
-	static bool TryConvertLongPackageNameToFilename(const FString& InLongPackageName, FString& OutFilename, const FString& InExtension = TEXT(""));
+	static bool TryConvertLongPackageNameToFilename(
+		const FString& InLongPackageName, FString& OutFilename, const FString& InExtension = TEXT(""));
 	/** The way back; the extension is dropped. */
-	static bool TryConvertFilenameToLongPackageName(const FString& InFilename, FString& OutPackageName, FString* OutFailureReason = nullptr);
+	static bool TryConvertFilenameToLongPackageName(
+		const FString& InFilename, FString& OutPackageName, FString* OutFailureReason = nullptr);
 
 	/** Whether there is an .uasset or .umap file of that package name. Packages in memory do not count. */
 	static bool DoesPackageExist(const FString& LongPackageName, FString* OutFilename = nullptr);
 
 	/** Begins with "/", has a root and a name, no "//", no end in "/" and no character that a package name may not have. */
-	static bool IsValidLongPackageName(const FString& InLongPackageName, bool bIncludeReadOnlyRoots = false, FText* OutReason = nullptr);
+	static bool IsValidLongPackageName(
+		const FString& InLongPackageName, bool bIncludeReadOnlyRoots = false, FText* OutReason = nullptr);
 	/** "Name" of "/Root/Dir/Name". */
 	static FString GetShortName(const FString& LongName);
 	/** "/Root/Dir" of "/Root/Dir/Name". */

@@ -26,8 +26,8 @@ FORCEINLINE auto CastChecked(From* Src, ECastCheckedType::Type CheckType = ECast
 {
 	using FResult = std::conditional_t<std::is_const_v<From>, const To, To>;
 	FResult* const Result = Cast<To>(Src);
-	checkf(Result || (!Src && CheckType == ECastCheckedType::NullAllowed), TEXT("Cast of %s to %s failed"),
-		*GetFullNameSafe(Src), *To::StaticClass()->GetName());
+	checkf(Result || (!Src && CheckType == ECastCheckedType::NullAllowed), TEXT("Cast of %s to %s failed"), *GetFullNameSafe(Src),
+		*To::StaticClass()->GetName());
 	return Result;
 }
 

@@ -289,7 +289,6 @@ public:
 	void FinishDestroy() override;
 
 private:
-
 	TMap<FName, UFunction*> FuncMap;
 	UField* LastFunction = nullptr;
 	mutable UObject* ClassDefaultObject = nullptr;

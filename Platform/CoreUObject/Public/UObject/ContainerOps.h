@@ -110,7 +110,10 @@ public:
 	void Destruct(void* Set) const override { In(Set).~FSetType(); }
 	int32 Num(const void* Set) const override { return In(Set).Num(); }
 	int32 GetMaxIndex(const void* Set) const override { return In(Set).GetMaxIndex(); }
-	bool IsValidIndex(const void* Set, int32 Index) const override { return In(Set).IsValidId(FSetElementId::FromInteger(Index)); }
+	bool IsValidIndex(const void* Set, int32 Index) const override
+	{
+		return In(Set).IsValidId(FSetElementId::FromInteger(Index));
+	}
 	void* GetElement(const void* Set, int32 Index) const override { return &In(Set)[FSetElementId::FromInteger(Index)]; }
 	int32 FindIndex(const void* Set, const void* Element) const override
 	{
@@ -139,13 +142,19 @@ public:
 	void Destruct(void* Map) const override { In(Map).~FMapType(); }
 	int32 Num(const void* Map) const override { return In(Map).Num(); }
 	int32 GetMaxIndex(const void* Map) const override { return In(Map).GetMaxIndex(); }
-	bool IsValidIndex(const void* Map, int32 Index) const override { return In(Map).IsValidId(FSetElementId::FromInteger(Index)); }
+	bool IsValidIndex(const void* Map, int32 Index) const override
+	{
+		return In(Map).IsValidId(FSetElementId::FromInteger(Index));
+	}
 	void* GetKey(const void* Map, int32 Index) const override
 	{
 		return const_cast<K*>(&In(Map).Get(FSetElementId::FromInteger(Index)).Key);
 	}
 	void* GetValue(const void* Map, int32 Index) const override { return &In(Map).Get(FSetElementId::FromInteger(Index)).Value; }
-	int32 FindIndex(const void* Map, const void* Key) const override { return In(Map).FindId(*static_cast<const K*>(Key)).AsInteger(); }
+	int32 FindIndex(const void* Map, const void* Key) const override
+	{
+		return In(Map).FindId(*static_cast<const K*>(Key)).AsInteger();
+	}
 	void Add(void* Map, const void* Key, const void* Value) const override
 	{
 		In(Map).Add(*static_cast<const K*>(Key), *static_cast<const V*>(Value));

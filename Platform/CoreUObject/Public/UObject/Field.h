@@ -38,8 +38,14 @@ class COREUOBJECT_API FFieldVariant
 public:
 	FFieldVariant() = default;
 	FFieldVariant(std::nullptr_t) {}
-	FFieldVariant(FField* InField) : Field(InField) {}
-	FFieldVariant(UObject* InObject) : Object(InObject) {}
+	FFieldVariant(FField* InField)
+		: Field(InField)
+	{
+	}
+	FFieldVariant(UObject* InObject)
+		: Object(InObject)
+	{
+	}
 
 	bool IsUObject() const { return Object != nullptr; }
 	bool IsValid() const { return Object || Field; }
@@ -77,7 +83,10 @@ private:
 public: \
 	using Super = TSuperClass; \
 	using ThisClass = TClass; \
-	static constexpr EClassCastFlags StaticClassCastFlagsPrivate() { return TCastFlag; } \
+	static constexpr EClassCastFlags StaticClassCastFlagsPrivate() \
+	{ \
+		return TCastFlag; \
+	} \
 	static FFieldClass* StaticClass();
 
 /** Root of what structures, classes and functions are made of besides objects: in 5.0 that is properties. */

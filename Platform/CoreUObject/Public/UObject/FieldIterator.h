@@ -31,7 +31,8 @@ class TFieldIterator
 	using FBaseField = std::conditional_t<bOfProperties, FField, UField>;
 
 public:
-	explicit TFieldIterator(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper,
+	explicit TFieldIterator(const UStruct* InStruct,
+		EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper,
 		EFieldIteratorFlags::DeprecatedPropertyFlags InDeprecatedFlags = EFieldIteratorFlags::IncludeDeprecated,
 		EFieldIteratorFlags::InterfaceClassFlags InInterfaceFlags = EFieldIteratorFlags::ExcludeInterfaces)
 		: Struct(InStruct)
@@ -71,9 +72,9 @@ private:
 	{
 		if constexpr (bOfProperties)
 		{
-			return Candidate->template IsA<T>()
-				   && (bIncludeDeprecated || !Candidate->template IsA<FProperty>()
-					   || !static_cast<FProperty*>(Candidate)->HasAnyPropertyFlags(CPF_Deprecated));
+			return Candidate->template IsA<T>() &&
+				(bIncludeDeprecated || !Candidate->template IsA<FProperty>() ||
+					!static_cast<FProperty*>(Candidate)->HasAnyPropertyFlags(CPF_Deprecated));
 		}
 		else
 		{
@@ -108,7 +109,8 @@ template <typename T>
 class TFieldRange
 {
 public:
-	explicit TFieldRange(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper)
+	explicit TFieldRange(
+		const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper)
 		: Begin(InStruct, InSuperClassFlags)
 	{
 	}

@@ -128,9 +128,13 @@ template <typename T>
 struct TCppStructOps
 {
 	template <typename U>
-	static auto IdenticalOf(int) -> decltype(std::declval<const U&>() == std::declval<const U&>(), (bool (*)(const void*, const void*))nullptr)
+	static auto IdenticalOf(int)
+		-> decltype(std::declval<const U&>() == std::declval<const U&>(), (bool (*)(const void*, const void*)) nullptr)
 	{
-		return [](const void* A, const void* B) { return bool(*static_cast<const U*>(A) == *static_cast<const U*>(B)); };
+		return [](const void* A, const void* B)
+		{
+			return bool(*static_cast<const U*>(A) == *static_cast<const U*>(B));
+		};
 	}
 	template <typename U>
 	static auto IdenticalOf(...) -> bool (*)(const void*, const void*)
@@ -141,7 +145,10 @@ struct TCppStructOps
 	template <typename U>
 	static auto HashOf(int) -> decltype(GetTypeHash(std::declval<const U&>()), (uint32(*)(const void*)) nullptr)
 	{
-		return [](const void* Src) -> uint32 { return GetTypeHash(*static_cast<const U*>(Src)); };
+		return [](const void* Src) -> uint32
+		{
+			return GetTypeHash(*static_cast<const U*>(Src));
+		};
 	}
 	template <typename U>
 	static auto HashOf(...) -> uint32 (*)(const void*)

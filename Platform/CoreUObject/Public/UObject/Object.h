@@ -61,7 +61,8 @@ public:
 	 * @param bForceCallWithNonExec  Without it only functions marked Exec are called.
 	 * @return False if there is no such function, or an argument does not parse.
 	 */
-	bool CallFunctionByNameWithArguments(const TCHAR* Cmd, FOutputDevice& Ar, UObject* Executor, bool bForceCallWithNonExec = false);
+	bool CallFunctionByNameWithArguments(
+		const TCHAR* Cmd, FOutputDevice& Ar, UObject* Executor, bool bForceCallWithNonExec = false);
 
 	/** The object that gives a new one of this class in this outer its values: the class default object. */
 	UObject* GetArchetype() const;

@@ -73,7 +73,8 @@ enum EClassFlags : uint32
 	CLASS_NewerVersionExists = 0x80000000,
 
 	/** What a class takes over from its parent. */
-	CLASS_Inherit = CLASS_Transient | CLASS_Config | CLASS_NotPlaceable | CLASS_Const | CLASS_DefaultToInstanced | CLASS_Interface,
+	CLASS_Inherit =
+		CLASS_Transient | CLASS_Config | CLASS_NotPlaceable | CLASS_Const | CLASS_DefaultToInstanced | CLASS_Interface,
 };
 ENUM_CLASS_FLAGS(EClassFlags)
 

@@ -18,7 +18,8 @@ constexpr Type Redirected = 1 << 7;
 /** What changed. Property may be null: then anything may have. */
 struct FPropertyChangedEvent
 {
-	explicit FPropertyChangedEvent(FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified)
+	explicit FPropertyChangedEvent(
+		FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified)
 		: Property(InProperty)
 		, MemberProperty(InProperty)
 		, ChangeType(InChangeType)

@@ -42,6 +42,7 @@ struct TPlainProperty
 	static FProperty* New(FFieldVariant Owner, const FName& Name) { return new TPropertyClass(Owner, Name); }
 };
 
+// clang-format off
 template <> struct TPropertyOf<bool> : TPlainProperty<FBoolProperty> {};
 template <> struct TPropertyOf<uint8> : TPlainProperty<FByteProperty> {};
 template <> struct TPropertyOf<uint16> : TPlainProperty<FUInt16Property> {};
@@ -56,6 +57,7 @@ template <> struct TPropertyOf<double> : TPlainProperty<FDoubleProperty> {};
 template <> struct TPropertyOf<FString> : TPlainProperty<FStrProperty> {};
 template <> struct TPropertyOf<FName> : TPlainProperty<FNameProperty> {};
 template <> struct TPropertyOf<FText> : TPlainProperty<FTextProperty> {};
+// clang-format on
 
 template <typename T>
 struct TPropertyOf<T*, std::enable_if_t<!std::is_same_v<std::remove_const_t<T>, UClass>>>
@@ -84,7 +86,10 @@ inline FProperty* NewClassProperty(FFieldVariant Owner, const FName& Name, UClas
 template <typename T>
 struct TPropertyOf<T*, std::enable_if_t<std::is_same_v<std::remove_const_t<T>, UClass>>>
 {
-	static FProperty* New(FFieldVariant Owner, const FName& Name) { return NewClassProperty(Owner, Name, UObject::StaticClass(), CPF_None); }
+	static FProperty* New(FFieldVariant Owner, const FName& Name)
+	{
+		return NewClassProperty(Owner, Name, UObject::StaticClass(), CPF_None);
+	}
 };
 
 template <typename T>

@@ -12,7 +12,10 @@ public:
 		, Array(const_cast<void*>(InArray))
 	{
 	}
-	static FScriptArrayHelper CreateHelper(const FArrayProperty* InProperty, const void* InArray) { return {InProperty, InArray}; }
+	static FScriptArrayHelper CreateHelper(const FArrayProperty* InProperty, const void* InArray)
+	{
+		return {InProperty, InArray};
+	}
 
 	int32 Num() const { return Ops.Num(Array); }
 	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Num(); }

@@ -67,7 +67,8 @@ COREUOBJECT_API UObject* StaticConstructObject_Internal(const FStaticConstructOb
 COREUOBJECT_API UPackage* GetTransientPackage();
 
 template <class T>
-T* NewObject(UObject* Outer, const UClass* Class, FName Name = NAME_None, EObjectFlags Flags = RF_NoFlags, UObject* Template = nullptr)
+T* NewObject(
+	UObject* Outer, const UClass* Class, FName Name = NAME_None, EObjectFlags Flags = RF_NoFlags, UObject* Template = nullptr)
 {
 	checkf(Class && Class->IsChildOf(T::StaticClass()), TEXT("NewObject of class %s is asked for as %s"), *GetNameSafe(Class),
 		*T::StaticClass()->GetName());
@@ -107,9 +108,10 @@ COREUOBJECT_API UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName
 COREUOBJECT_API UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
 COREUOBJECT_API UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass = false);
 /** As StaticFindObject. Given only a package it means the object of the package's short name. A Warning tells of a failure. */
-COREUOBJECT_API UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = 0);
-COREUOBJECT_API UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr,
-	uint32 LoadFlags = 0);
+COREUOBJECT_API UObject* StaticLoadObject(
+	UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = 0);
+COREUOBJECT_API UClass* StaticLoadClass(
+	UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = 0);
 
 template <class T>
 T* FindObject(UObject* Outer, const TCHAR* Name, bool ExactClass = false)
@@ -154,8 +156,8 @@ FORCEINLINE bool IsValid(const UObject* Test)
 }
 
 COREUOBJECT_API void GetObjectsWithOuter(const UObject* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects = true);
-COREUOBJECT_API void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses = true,
-	EObjectFlags ExcludeFlags = RF_ClassDefaultObject);
+COREUOBJECT_API void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results,
+	bool bIncludeDerivedClasses = true, EObjectFlags ExcludeFlags = RF_ClassDefaultObject);
 COREUOBJECT_API void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive = true);
 
 /** Makes the types that libraries brought along known, with their default objects. */
@@ -184,7 +186,8 @@ public:
 	virtual ~FReferenceCollector() = default;
 
 	template <class UObjectType>
-	void AddReferencedObject(UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
+	void AddReferencedObject(
+		UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
 	{
 		HandleReference(reinterpret_cast<UObject*&>(const_cast<std::remove_const_t<UObjectType>*&>(Object)));
 	}

@@ -75,7 +75,8 @@ class COREUOBJECT_API FProperty : public FField
 	}
 	bool Identical_InContainer(const void* A, const void* B, int32 ArrayIndex = 0, uint32 PortFlags = 0) const
 	{
-		return Identical(ContainerPtrToValuePtr<void>(A, ArrayIndex), B ? ContainerPtrToValuePtr<void>(B, ArrayIndex) : nullptr, PortFlags);
+		return Identical(
+			ContainerPtrToValuePtr<void>(A, ArrayIndex), B ? ContainerPtrToValuePtr<void>(B, ArrayIndex) : nullptr, PortFlags);
 	}
 	void AddReferencedObjects_InContainer(void* Container, FReferenceCollector& Collector) const;
 
@@ -93,20 +94,21 @@ class COREUOBJECT_API FProperty : public FField
 	virtual void AddReferencedObjects(void* Value, FReferenceCollector& Collector) const {}
 
 	/** Appends the value as text. With DefaultValue, a structure leaves out its members that are equal. */
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
-		UObject* ExportRootScope = nullptr) const = 0;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+		int32 PortFlags, UObject* ExportRootScope = nullptr) const = 0;
 	/** As ExportTextItem, unless Data equals Delta: then nothing is appended and the result is false. */
 	bool ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
 		UObject* ExportRootScope = nullptr) const;
-	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
-		UObject* ExportRootScope = nullptr) const;
+	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Delta, UObject* Parent,
+		int32 PortFlags, UObject* ExportRootScope = nullptr) const;
 	/**
 	 * Reads what ExportTextItem writes into an initialised value.
 	 *
 	 * @param ErrorText  Takes the complaint; null for the log.
 	 * @return The place behind the text that was read; null, with a complaint, if it is no such value.
 	 */
-	const TCHAR* ImportText(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText = nullptr) const;
+	const TCHAR* ImportText(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText = nullptr) const;
 
 protected:
 	virtual void ConstructValue(void* Dest) const = 0;
@@ -114,7 +116,8 @@ protected:
 	virtual void CopyValue(void* Dest, const void* Src) const = 0;
 	virtual uint32 HashValue(const void* Src) const = 0;
 	virtual bool IsSameTypeAs(const FProperty& Other) const { return true; }
-	virtual const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const = 0;
+	virtual const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const = 0;
 
 	int32 MinAlignment = 1;
 
@@ -213,12 +216,24 @@ public:
 	bool IsFloatingPoint() const override { return std::is_floating_point_v<InTCppType>; }
 	bool IsInteger() const override { return std::is_integral_v<InTCppType>; }
 	bool IsSigned() const override { return std::is_signed_v<InTCppType>; }
-	void SetIntPropertyValue(void* Data, uint64 Value) const override { Base::SetPropertyValue(Data, static_cast<InTCppType>(Value)); }
-	void SetIntPropertyValue(void* Data, int64 Value) const override { Base::SetPropertyValue(Data, static_cast<InTCppType>(Value)); }
+	void SetIntPropertyValue(void* Data, uint64 Value) const override
+	{
+		Base::SetPropertyValue(Data, static_cast<InTCppType>(Value));
+	}
+	void SetIntPropertyValue(void* Data, int64 Value) const override
+	{
+		Base::SetPropertyValue(Data, static_cast<InTCppType>(Value));
+	}
 	void SetFloatingPointPropertyValue(void* Data, double Value) const override;
 	int64 GetSignedIntPropertyValue(const void* Data) const override { return static_cast<int64>(Base::GetPropertyValue(Data)); }
-	uint64 GetUnsignedIntPropertyValue(const void* Data) const override { return static_cast<uint64>(Base::GetPropertyValue(Data)); }
-	double GetFloatingPointPropertyValue(const void* Data) const override { return static_cast<double>(Base::GetPropertyValue(Data)); }
+	uint64 GetUnsignedIntPropertyValue(const void* Data) const override
+	{
+		return static_cast<uint64>(Base::GetPropertyValue(Data));
+	}
+	double GetFloatingPointPropertyValue(const void* Data) const override
+	{
+		return static_cast<double>(Base::GetPropertyValue(Data));
+	}
 	bool SetNumericPropertyValueFromString(void* Data, const TCHAR* Value) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override
 	{
@@ -229,7 +244,8 @@ public:
 
 protected:
 	uint32 HashValue(const void* Src) const override { return GetTypeHash(Base::GetPropertyValue(Src)); }
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 };
 
 #define DECLARE_NUMERIC_PROPERTY(TClass, TCppType) \
@@ -275,7 +291,8 @@ class COREUOBJECT_API FByteProperty final : public TProperty_Numeric<uint8>
 
 protected:
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 };
 
 /** An enum class. Its values lie in an integer property of the enum's underlying type. */
@@ -304,7 +321,8 @@ protected:
 	void CopyValue(void* Dest, const void* Src) const override;
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 
 private:
 	FNumericProperty* UnderlyingProp = nullptr;
@@ -355,7 +373,8 @@ protected:
 	void DestructValue(void* Dest) const override {}
 	void CopyValue(void* Dest, const void* Src) const override { SetPropertyValue(Dest, GetPropertyValue(Src)); }
 	uint32 HashValue(const void* Src) const override { return GetTypeHash(GetPropertyValue(Src)); }
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 
 private:
 	uint8 FieldSize = 1;
@@ -371,13 +390,13 @@ private:
 		TClass(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags); \
 		FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override; \
 		bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override; \
-		void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, \
-			UObject* ExportRootScope = nullptr) const override; \
+		void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, \
+			int32 PortFlags, UObject* ExportRootScope = nullptr) const override; \
 \
 	protected: \
 		uint32 HashValue(const void* Src) const override; \
-		const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) \
-			const override; \
+		const TCHAR* ImportValue( \
+			const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override; \
 	};
 
 /** Texts that differ in case only are identical, as they are to FString's == and as keys. */
@@ -415,7 +434,8 @@ class COREUOBJECT_API FObjectPropertyBase : public FProperty
 protected:
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 	/** Whether an imported object may be stored. */
 	virtual bool AcceptsObject(const UObject* Object) const;
 };
@@ -427,8 +447,14 @@ class COREUOBJECT_API FObjectProperty : public TProperty<UObject*, FObjectProper
 
 	FObjectProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
 
-	UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override { return GetPropertyValue(PropertyValueAddress); }
-	void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override { SetPropertyValue(PropertyValueAddress, Value); }
+	UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override
+	{
+		return GetPropertyValue(PropertyValueAddress);
+	}
+	void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override
+	{
+		SetPropertyValue(PropertyValueAddress, Value);
+	}
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool ContainsObjectReference() const override { return true; }
 	void AddReferencedObjects(void* Value, FReferenceCollector& Collector) const override;
@@ -462,7 +488,10 @@ class COREUOBJECT_API FWeakObjectProperty final : public TProperty<FWeakObjectPt
 
 	FWeakObjectProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
 
-	UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override { return GetPropertyValue(PropertyValueAddress).Get(); }
+	UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override
+	{
+		return GetPropertyValue(PropertyValueAddress).Get();
+	}
 	void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override
 	{
 		SetPropertyValue(PropertyValueAddress, FWeakObjectPtr(Value));
@@ -494,7 +523,8 @@ protected:
 	void CopyValue(void* Dest, const void* Src) const override;
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 };
 
 /** TArray. Made by hand, its values are laid out as those of a TArray of the inner type. */
@@ -527,7 +557,8 @@ protected:
 	void CopyValue(void* Dest, const void* Src) const override;
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 
 private:
 	const FArrayOps* Ops = nullptr;
@@ -565,7 +596,8 @@ protected:
 	void CopyValue(void* Dest, const void* Src) const override;
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 
 private:
 	const FSetOps* Ops = nullptr;
@@ -606,7 +638,8 @@ protected:
 	void CopyValue(void* Dest, const void* Src) const override;
 	uint32 HashValue(const void* Src) const override;
 	bool IsSameTypeAs(const FProperty& Other) const override;
-	const TCHAR* ImportValue(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportValue(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const override;
 
 private:
 	const FMapOps* Ops = nullptr;

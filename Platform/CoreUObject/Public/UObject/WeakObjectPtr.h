@@ -16,7 +16,10 @@ struct COREUOBJECT_API FWeakObjectPtr
 	UObject* Get() const { return Get(false); }
 	/** With bEvenIfPendingKill also an object that is marked as garbage and not yet destroyed. */
 	UObject* Get(bool bEvenIfPendingKill) const;
-	bool IsValid(bool bEvenIfPendingKill = false, bool bThreadsafeTest = false) const { return Get(bEvenIfPendingKill) != nullptr; }
+	bool IsValid(bool bEvenIfPendingKill = false, bool bThreadsafeTest = false) const
+	{
+		return Get(bEvenIfPendingKill) != nullptr;
+	}
 	/** True if there once was an object and it is gone. */
 	bool IsStale(bool bIncludingGarbage = true, bool bThreadsafeTest = false) const;
 	bool IsExplicitlyNull() const { return ObjectIndex == INDEX_NONE; }
@@ -26,7 +29,10 @@ struct COREUOBJECT_API FWeakObjectPtr
 	}
 
 	/** Two pointers to objects that are gone are equal. */
-	bool operator==(const FWeakObjectPtr& Other) const { return HasSameIndexAndSerialNumber(Other) || (!IsValid() && !Other.IsValid()); }
+	bool operator==(const FWeakObjectPtr& Other) const
+	{
+		return HasSameIndexAndSerialNumber(Other) || (!IsValid() && !Other.IsValid());
+	}
 	bool operator!=(const FWeakObjectPtr& Other) const { return !(*this == Other); }
 
 	friend uint32 GetTypeHash(const FWeakObjectPtr& Pointer)

@@ -51,7 +51,10 @@ struct TWeakObjectPtr : private TWeakObjectPtrBase
 	friend bool operator==(const TWeakObjectPtr& Left, std::nullptr_t) { return !Left.IsValid(); }
 	friend bool operator!=(const TWeakObjectPtr& Left, const T* Right) { return Left.Get() != Right; }
 	friend bool operator!=(const TWeakObjectPtr& Left, std::nullptr_t) { return Left.IsValid(); }
-	friend uint32 GetTypeHash(const TWeakObjectPtr& Pointer) { return GetTypeHash(static_cast<const TWeakObjectPtrBase&>(Pointer)); }
+	friend uint32 GetTypeHash(const TWeakObjectPtr& Pointer)
+	{
+		return GetTypeHash(static_cast<const TWeakObjectPtrBase&>(Pointer));
+	}
 };
 
 template <class T, class TWeakObjectPtrBase = FWeakObjectPtr>

@@ -7,7 +7,8 @@
 
 namespace
 {
-TArray<FString> PropertyNames(const UStruct* Struct, EFieldIteratorFlags::SuperClassFlags SuperFlags = EFieldIteratorFlags::IncludeSuper)
+TArray<FString> PropertyNames(
+	const UStruct* Struct, EFieldIteratorFlags::SuperClassFlags SuperFlags = EFieldIteratorFlags::IncludeSuper)
 {
 	TArray<FString> Names;
 	for (TFieldIterator<FProperty> It(Struct, SuperFlags); It; ++It)
@@ -56,7 +57,9 @@ TEST(Class, PropertiesComeInDeclaredOrderThenTheParents)
 TEST(Class, DeprecatedPropertiesCanBeLeftOut)
 {
 	TArray<FString> Names;
-	for (TFieldIterator<FProperty> It(UTestChild::StaticClass(), EFieldIteratorFlags::ExcludeSuper, EFieldIteratorFlags::ExcludeDeprecated); It; ++It)
+	for (TFieldIterator<FProperty> It(
+			 UTestChild::StaticClass(), EFieldIteratorFlags::ExcludeSuper, EFieldIteratorFlags::ExcludeDeprecated);
+		 It; ++It)
 	{
 		Names.Add(It->GetName());
 	}
@@ -80,7 +83,9 @@ TEST(Class, FunctionsComeInDeclaredOrder)
 	{
 		Names.Add(It->GetName());
 	}
-	EXPECT_EQ(Names, TArray<FString>({TEXT("GetLabel"), TEXT("Add"), TEXT("Describe"), TEXT("Grow"), TEXT("Remember"), TEXT("GetWeights"), TEXT("GetHidden")}));
+	EXPECT_EQ(Names,
+		TArray<FString>({TEXT("GetLabel"), TEXT("Add"), TEXT("Describe"), TEXT("Grow"), TEXT("Remember"), TEXT("GetWeights"),
+			TEXT("GetHidden")}));
 }
 
 TEST(Class, MetadataAndToolTipComeFromTheHeader)
@@ -106,7 +111,8 @@ TEST(Class, FlagsComeFromTheHeader)
 	EXPECT_TRUE(UTestAbstract::StaticClass()->HasAnyClassFlags(CLASS_Abstract));
 	EXPECT_FALSE(UTestObject::StaticClass()->HasAnyClassFlags(CLASS_Abstract));
 	EXPECT_TRUE(UTestObject::StaticClass()->HasAllClassFlags(CLASS_Native | CLASS_Constructed));
-	EXPECT_EQ(UTestObject::StaticClass()->FindPropertyByName(TEXT("bNative"))->GetPropertyFlags() & (CPF_Edit | CPF_BlueprintVisible),
+	EXPECT_EQ(
+		UTestObject::StaticClass()->FindPropertyByName(TEXT("bNative"))->GetPropertyFlags() & (CPF_Edit | CPF_BlueprintVisible),
 		CPF_Edit | CPF_BlueprintVisible);
 }
 

@@ -57,7 +57,8 @@ TEST(Enum, NamespacedEnumerationsAreBytesInProperties)
 TEST(Enum, EntriesCanBeSetAtRunTime)
 {
 	UEnum* const Made = NewObject<UEnum>(GetTransientPackage(), TEXT("EMade"), RF_Public);
-	TArray<TPair<FName, int64>> Names = {TPair<FName, int64>(TEXT("EMade::NewEnumerator0"), 0), TPair<FName, int64>(TEXT("EMade::EMade_MAX"), 1)};
+	TArray<TPair<FName, int64>> Names = {
+		TPair<FName, int64>(TEXT("EMade::NewEnumerator0"), 0), TPair<FName, int64>(TEXT("EMade::EMade_MAX"), 1)};
 	Made->SetEnums(Names, UEnum::ECppForm::Namespaced);
 	Made->SetMetaData(TEXT("DisplayName"), TEXT("First"), 0);
 

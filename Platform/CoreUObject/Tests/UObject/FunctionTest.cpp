@@ -29,10 +29,13 @@ public:
 
 TEST(Function, FlagsTellHowItWasDeclared)
 {
-	EXPECT_EQ(Find(TEXT("Add"))->FunctionFlags, FUNC_BlueprintCallable | FUNC_BlueprintPure | FUNC_Native | FUNC_Public | FUNC_Final | FUNC_Static);
-	EXPECT_EQ(Find(TEXT("GetLabel"))->FunctionFlags, FUNC_BlueprintCallable | FUNC_Native | FUNC_Public | FUNC_Final | FUNC_Const | FUNC_HasOutParms);
+	EXPECT_EQ(Find(TEXT("Add"))->FunctionFlags,
+		FUNC_BlueprintCallable | FUNC_BlueprintPure | FUNC_Native | FUNC_Public | FUNC_Final | FUNC_Static);
+	EXPECT_EQ(Find(TEXT("GetLabel"))->FunctionFlags,
+		FUNC_BlueprintCallable | FUNC_Native | FUNC_Public | FUNC_Final | FUNC_Const | FUNC_HasOutParms);
 	EXPECT_EQ(Find(TEXT("GetWeights"))->FunctionFlags, FUNC_BlueprintCallable | FUNC_Native | FUNC_Public);
-	EXPECT_EQ(Find(TEXT("GetHidden"))->FunctionFlags, FUNC_BlueprintCallable | FUNC_Native | FUNC_Private | FUNC_Final | FUNC_Static);
+	EXPECT_EQ(
+		Find(TEXT("GetHidden"))->FunctionFlags, FUNC_BlueprintCallable | FUNC_Native | FUNC_Private | FUNC_Final | FUNC_Static);
 	EXPECT_TRUE(Find(TEXT("Remember"))->HasAnyFunctionFlags(FUNC_Exec));
 }
 
@@ -55,7 +58,10 @@ TEST(Function, ToolTipAndKeywordsComeFromTheHeader)
 TEST(Function, CppDefaultsAreTextsInTheEnginesFormats)
 {
 	const UFunction* const Describe = Find(TEXT("Describe"));
-	const auto Default = [Describe](const TCHAR* Parameter) { return Describe->GetMetaData(*(FString(TEXT("CPP_Default_")) + Parameter)); };
+	const auto Default = [Describe](const TCHAR* Parameter)
+	{
+		return Describe->GetMetaData(*(FString(TEXT("CPP_Default_")) + Parameter));
+	};
 
 	EXPECT_FALSE(Describe->HasMetaData(TEXT("CPP_Default_Text")));
 	EXPECT_EQ(Default(TEXT("Name")), TEXT("None"));
@@ -147,5 +153,6 @@ TEST(CallFunctionByName, ComplainsAboutAnArgumentOfTheWrongType)
 	EXPECT_FALSE(Object->CallFunctionByNameWithArguments(TEXT("Add one"), Complaints, nullptr, true));
 
 	EXPECT_EQ(Complaints.Lines,
-		TArray<FString>({TEXT("ImportText (A): expected a value of type int32, found 'one'"), TEXT("'Add': Bad or missing property 'A'")}));
+		TArray<FString>(
+			{TEXT("ImportText (A): expected a value of type int32, found 'one'"), TEXT("'Add': Bad or missing property 'A'")}));
 }

@@ -218,7 +218,8 @@ TEST_F(GarbageCollection, ObjectsOutsideTheSystemKeepWhatTheyTellAbout)
 	UObject* const InArray = NewObject<UTestObject>();
 	UObject* const InSet = NewObject<UTestObject>();
 	UObject* const InMap = NewObject<UTestObject>();
-	const TArray<FWeakObjectPtr> All = {FWeakObjectPtr(Target), FWeakObjectPtr(InArray), FWeakObjectPtr(InSet), FWeakObjectPtr(InMap)};
+	const TArray<FWeakObjectPtr> All = {
+		FWeakObjectPtr(Target), FWeakObjectPtr(InArray), FWeakObjectPtr(InSet), FWeakObjectPtr(InMap)};
 	{
 		FKeeper Keeper;
 		Keeper.Object = Target;
@@ -301,7 +302,8 @@ TEST_F(GarbageCollection, NativeTypesAndTheirDefaultsStay)
 TEST_F(GarbageCollection, TellsBeforeAndAfter)
 {
 	TArray<FString> Told;
-	const FDelegateHandle Before = FCoreUObjectDelegates::GetPreGarbageCollectDelegate().AddLambda([&Told] { Told.Add(TEXT("before")); });
+	const FDelegateHandle Before =
+		FCoreUObjectDelegates::GetPreGarbageCollectDelegate().AddLambda([&Told] { Told.Add(TEXT("before")); });
 	const FDelegateHandle After = FCoreUObjectDelegates::GetPostGarbageCollect().AddLambda([&Told] { Told.Add(TEXT("after")); });
 	CollectGarbage(RF_NoFlags);
 	EXPECT_EQ(Told, TArray<FString>({TEXT("before"), TEXT("after")}));

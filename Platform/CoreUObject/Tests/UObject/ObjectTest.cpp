@@ -63,12 +63,14 @@ TEST(ObjectDeathTest, SameNameOfAnotherClassIsFatal)
 {
 	NewObject<UTestObject>(GetTransientPackage(), TEXT("Taken"));
 
-	EXPECT_DEATH(NewObject<UTestChild>(GetTransientPackage(), TEXT("Taken")), "Cannot replace existing object of a different class");
+	EXPECT_DEATH(
+		NewObject<UTestChild>(GetTransientPackage(), TEXT("Taken")), "Cannot replace existing object of a different class");
 }
 
 TEST(ObjectDeathTest, AbstractClassesMakeNoObjects)
 {
-	EXPECT_DEATH(NewObject<UTestAbstract>(), "Cannot create an object of the abstract class /Script/CoreUObjectTests.TestAbstract");
+	EXPECT_DEATH(
+		NewObject<UTestAbstract>(), "Cannot create an object of the abstract class /Script/CoreUObjectTests.TestAbstract");
 }
 
 TEST(ObjectDeathTest, ObjectsAreMadeByNewObjectOnly)
@@ -205,7 +207,8 @@ TEST(Object, ModifyMarksThePackageAndTells)
 	UPackage* const Package = CreatePackage(TEXT("/Game/Modified"));
 	UTestObject* const Object = NewObject<UTestObject>(Package, TEXT("Modified"));
 	TArray<UObject*> Told;
-	const FDelegateHandle Handle = FCoreUObjectDelegates::OnObjectModified.AddLambda([&Told](UObject* Modified) { Told.Add(Modified); });
+	const FDelegateHandle Handle =
+		FCoreUObjectDelegates::OnObjectModified.AddLambda([&Told](UObject* Modified) { Told.Add(Modified); });
 
 	EXPECT_FALSE(Object->Modify(false));
 	EXPECT_FALSE(Package->IsDirty());

@@ -192,8 +192,7 @@ public:
 	/** The tokenizer's double may be a few units off; the text behind the stream gives the nearest one. */
 	bool Double(double)
 	{
-		const double Number = ReadNumber(Stream.GetTextBefore(
-			[](TCHAR Char)
+		const double Number = ReadNumber(Stream.GetTextBefore([](TCHAR Char)
 			{ return FChar::IsDigit(Char) || Char == '.' || Char == '-' || Char == '+' || Char == 'e' || Char == 'E'; }));
 		return FMath::IsFinite(Number) ? AddNumber(Number) : Stop(TEXT("The number is too big."));
 	}

@@ -28,14 +28,14 @@ public:
 	 */
 	template <class CharType, class PrintPolicy>
 	static bool Serialize(const TSharedRef<FJsonObject>& Object, const TSharedRef<TJsonWriter<CharType, PrintPolicy>>& Writer,
-						  bool bCloseWriter = true)
+		bool bCloseWriter = true)
 	{
 		return Write(MakeShared<FJsonValueObject>(Object), *Writer, bCloseWriter);
 	}
 
 	template <class CharType, class PrintPolicy>
 	static bool Serialize(const TArray<TSharedPtr<FJsonValue>>& Array,
-						  const TSharedRef<TJsonWriter<CharType, PrintPolicy>>& Writer, bool bCloseWriter = true)
+		const TSharedRef<TJsonWriter<CharType, PrintPolicy>>& Writer, bool bCloseWriter = true)
 	{
 		return Write(MakeShared<FJsonValueArray>(Array), *Writer, bCloseWriter);
 	}

@@ -206,7 +206,7 @@ private:
 	std::enable_if_t<std::is_arithmetic_v<NumberType>> WriteValueOnly(NumberType Value)
 	{
 		using FWritten = std::conditional_t<std::is_floating_point_v<NumberType>, NumberType,
-											std::conditional_t<std::is_signed_v<NumberType>, int64, uint64>>;
+			std::conditional_t<std::is_signed_v<NumberType>, int64, uint64>>;
 		JsonWriterInternals::AppendNumber(Text, FWritten(Value));
 		PreviousToken = EToken::ShortValue;
 	}

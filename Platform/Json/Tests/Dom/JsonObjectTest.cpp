@@ -63,18 +63,19 @@ TEST(JsonObject, PlainGettersSayThatAFieldIsMissing)
 	EXPECT_EQ(Object.GetArrayField(TEXT("List")).Num(), 0);
 	EXPECT_EQ(Object.GetObjectField(TEXT("Sub"))->Values.Num(), 0);
 
-	EXPECT_EQ(Log.Lines(), TArray<FString>({
-							   TEXT("LogJson: Warning: Field Text was not found."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'String'."),
-							   TEXT("LogJson: Warning: Field Size was not found."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Number'."),
-							   TEXT("LogJson: Warning: Field On was not found."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Boolean'."),
-							   TEXT("LogJson: Warning: Field List was not found."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Array'."),
-							   TEXT("LogJson: Warning: Field Sub was not found."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Object'."),
-						   }));
+	EXPECT_EQ(Log.Lines(),
+		TArray<FString>({
+			TEXT("LogJson: Warning: Field Text was not found."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'String'."),
+			TEXT("LogJson: Warning: Field Size was not found."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Number'."),
+			TEXT("LogJson: Warning: Field On was not found."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Boolean'."),
+			TEXT("LogJson: Warning: Field List was not found."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Array'."),
+			TEXT("LogJson: Warning: Field Sub was not found."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Object'."),
+		}));
 }
 
 TEST(JsonObject, PlainGettersSayThatAFieldIsOfTheWrongType)
@@ -85,12 +86,13 @@ TEST(JsonObject, PlainGettersSayThatAFieldIsOfTheWrongType)
 	EXPECT_TRUE(Object->GetField<EJson::Number>(TEXT("List"))->IsNull());
 	EXPECT_EQ(Object->GetStringField(TEXT("List")), TEXT(""));
 
-	EXPECT_EQ(Log.Lines(), TArray<FString>({
-							   TEXT("LogJson: Warning: Field Text is of the wrong type."),
-							   TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Array'."),
-							   TEXT("LogJson: Warning: Field List is of the wrong type."),
-							   TEXT("LogJson: Error: Json Value of type 'Array' used as a 'String'."),
-						   }));
+	EXPECT_EQ(Log.Lines(),
+		TArray<FString>({
+			TEXT("LogJson: Warning: Field Text is of the wrong type."),
+			TEXT("LogJson: Error: Json Value of type 'Null' used as a 'Array'."),
+			TEXT("LogJson: Warning: Field List is of the wrong type."),
+			TEXT("LogJson: Error: Json Value of type 'Array' used as a 'String'."),
+		}));
 }
 
 TEST(JsonObject, TryGettersAreSilentAndLeaveTheirResultAlone)

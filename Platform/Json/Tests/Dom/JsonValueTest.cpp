@@ -98,15 +98,16 @@ TEST(JsonValue, NullArraysAndObjectsConvertToNothing)
 	FJsonValueBoolean(true).AsObject();
 	FJsonValueNumber(1.0).AsObject();
 
-	EXPECT_EQ(Log.Errors(), TArray<FString>({
-								TEXT("Json Value of type 'Null' used as a 'String'."),
-								TEXT("Json Value of type 'Null' used as a 'Boolean'."),
-								TEXT("Json Value of type 'Array' used as a 'Number'."),
-								TEXT("Json Value of type 'Object' used as a 'String'."),
-								TEXT("Json Value of type 'String' used as a 'Array'."),
-								TEXT("Json Value of type 'Boolean' used as a 'Object'."),
-								TEXT("Json Value of type 'Number' used as a 'Object'."),
-							}));
+	EXPECT_EQ(Log.Errors(),
+		TArray<FString>({
+			TEXT("Json Value of type 'Null' used as a 'String'."),
+			TEXT("Json Value of type 'Null' used as a 'Boolean'."),
+			TEXT("Json Value of type 'Array' used as a 'Number'."),
+			TEXT("Json Value of type 'Object' used as a 'String'."),
+			TEXT("Json Value of type 'String' used as a 'Array'."),
+			TEXT("Json Value of type 'Boolean' used as a 'Object'."),
+			TEXT("Json Value of type 'Number' used as a 'Object'."),
+		}));
 }
 
 TEST(JsonValue, TheEmptyObjectOfAWrongUseStaysEmpty)

@@ -110,10 +110,11 @@ TEST(JsonReader, AsksForTheRootThatTheCallerWants)
 	EXPECT_FALSE(FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(TEXT("{}")), Array));
 	EXPECT_TRUE(FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(TEXT("[1]")), Array));
 	EXPECT_EQ(Array.Num(), 1);
-	EXPECT_EQ(Log.Warnings(), TArray<FString>({
-								  TEXT("Open Curly Brace token expected, but not found. Line: 1 Ch: 2 In: [1]"),
-								  TEXT("Open Square Brace token expected, but not found. Line: 1 Ch: 1 In: {}"),
-							  }));
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({
+			TEXT("Open Curly Brace token expected, but not found. Line: 1 Ch: 2 In: [1]"),
+			TEXT("Open Square Brace token expected, but not found. Line: 1 Ch: 1 In: {}"),
+		}));
 }
 
 TEST(JsonReader, SaysWhatIsMissingAndWhere)
@@ -123,8 +124,8 @@ TEST(JsonReader, SaysWhatIsMissingAndWhere)
 	EXPECT_EQ(ErrorOf(TEXT("[1 2]")), TEXT("Comma or Close Square Brace token expected, but not found. Line: 1 Ch: 4"));
 	EXPECT_EQ(ErrorOf(TEXT("{a: 1}")), TEXT("String token expected, but not found. Line: 1 Ch: 2"));
 	EXPECT_EQ(ErrorOf(TEXT("{\"a\":}")), TEXT("Value expected, but not found. Line: 1 Ch: 6"));
-	EXPECT_EQ(ErrorOf(TEXT("{\"a\": \"b\\c\"}")),
-			  TEXT("Bad Json escaped char; a backslash itself is written as two. Line: 1 Ch: 9"));
+	EXPECT_EQ(
+		ErrorOf(TEXT("{\"a\": \"b\\c\"}")), TEXT("Bad Json escaped char; a backslash itself is written as two. Line: 1 Ch: 9"));
 	EXPECT_EQ(ErrorOf(TEXT("[\"abc")), TEXT("Closing quotation mark expected, but not found. Line: 1 Ch: 6"));
 	EXPECT_EQ(ErrorOf(TEXT("[1.]")), TEXT("Poorly formed Number Token. Line: 1 Ch: 4"));
 	EXPECT_EQ(ErrorOf(TEXT("[9e308]")), TEXT("The number is too big. Line: 1 Ch: 2"));
@@ -155,7 +156,7 @@ TEST(JsonReader, LogsTheLineOfTheError)
 	const FLogCapture Log;
 	ErrorOf(TEXT("{\r\n\t\"a\" 1\r\n}"));
 	EXPECT_EQ(Log.Lines(),
-			  TArray<FString>({TEXT("LogJsonReader: Warning: Colon token expected, but not found. Line: 2 Ch: 6 In: \"a\" 1")}));
+		TArray<FString>({TEXT("LogJsonReader: Warning: Colon token expected, but not found. Line: 2 Ch: 6 In: \"a\" 1")}));
 }
 
 TEST(JsonReader, CutsALongLineAroundTheError)
@@ -164,8 +165,8 @@ TEST(JsonReader, CutsALongLineAroundTheError)
 	const FString Many = FString::ChrN(100, TEXT('1'));
 	ErrorOf(TEXT("[") + Many + TEXT(" x") + Many + TEXT("]"));
 	EXPECT_EQ(Log.Warnings(),
-			  TArray<FString>({TEXT("Comma or Close Square Brace token expected, but not found. Line: 1 Ch: 103 In: ...") +
-							   FString::ChrN(59, TEXT('1')) + TEXT(" x") + FString::ChrN(59, TEXT('1')) + TEXT("...")}));
+		TArray<FString>({TEXT("Comma or Close Square Brace token expected, but not found. Line: 1 Ch: 103 In: ...") +
+			FString::ChrN(59, TEXT('1')) + TEXT(" x") + FString::ChrN(59, TEXT('1')) + TEXT("...")}));
 }
 
 TEST(JsonReader, AGoodTextLogsNothing)

@@ -26,35 +26,34 @@ FString Rewrite(const TCHAR* Text)
 // line, strings and containers get their own.
 TEST(JsonWriter, PrintsPrettily)
 {
-	EXPECT_TRUE(
-		Rewrite<TJsonWriterFactory<>>(
-			TEXT("{\"Name\":\"x\",\"On\":true,\"None\":null,\"Numbers\":[1,2,false,null],\"Mixed\":[1,\"a\",2],\"Empty\":[],")
-				TEXT("\"Sub\":{\"A\":1},\"Subs\":[{\"B\":2},{}]}"))
-			.Equals(TEXT("{\n"
-						 "\t\"Name\": \"x\",\n"
-						 "\t\"On\": true,\n"
-						 "\t\"None\": null,\n"
-						 "\t\"Numbers\":\n"
-						 "\t[ 1, 2, false, null ],\n"
-						 "\t\"Mixed\":\n"
-						 "\t[ 1,\n"
-						 "\t\t\"a\",\n"
-						 "\t\t2 ],\n"
-						 "\t\"Empty\":\n"
-						 "\t[],\n"
-						 "\t\"Sub\":\n"
-						 "\t{\n"
-						 "\t\t\"A\": 1\n"
-						 "\t},\n"
-						 "\t\"Subs\":\n"
-						 "\t[\n"
-						 "\t\t{\n"
-						 "\t\t\t\"B\": 2\n"
-						 "\t\t},\n"
-						 "\t\t{\n"
-						 "\t\t}\n"
-						 "\t]\n"
-						 "}")));
+	EXPECT_TRUE(Rewrite<TJsonWriterFactory<>>(
+		TEXT("{\"Name\":\"x\",\"On\":true,\"None\":null,\"Numbers\":[1,2,false,null],\"Mixed\":[1,\"a\",2],\"Empty\":[],")
+			TEXT("\"Sub\":{\"A\":1},\"Subs\":[{\"B\":2},{}]}"))
+					.Equals(TEXT("{\n"
+								 "\t\"Name\": \"x\",\n"
+								 "\t\"On\": true,\n"
+								 "\t\"None\": null,\n"
+								 "\t\"Numbers\":\n"
+								 "\t[ 1, 2, false, null ],\n"
+								 "\t\"Mixed\":\n"
+								 "\t[ 1,\n"
+								 "\t\t\"a\",\n"
+								 "\t\t2 ],\n"
+								 "\t\"Empty\":\n"
+								 "\t[],\n"
+								 "\t\"Sub\":\n"
+								 "\t{\n"
+								 "\t\t\"A\": 1\n"
+								 "\t},\n"
+								 "\t\"Subs\":\n"
+								 "\t[\n"
+								 "\t\t{\n"
+								 "\t\t\t\"B\": 2\n"
+								 "\t\t},\n"
+								 "\t\t{\n"
+								 "\t\t}\n"
+								 "\t]\n"
+								 "}")));
 }
 
 TEST(JsonWriter, PrintsCondensed)
@@ -66,7 +65,7 @@ TEST(JsonWriter, PrintsCondensed)
 TEST(JsonWriter, PrintsNumbersSoThatTheyReadBackTheSame)
 {
 	EXPECT_EQ(Rewrite<FCondensedFactory>(TEXT("{\"a\":[0.1,5,-0.5,1e300,123456789012]}")),
-			  TEXT("{\"a\":[0.10000000000000001,5,-0.5,1.0000000000000001e+300,123456789012]}"));
+		TEXT("{\"a\":[0.10000000000000001,5,-0.5,1.0000000000000001e+300,123456789012]}"));
 }
 
 TEST(JsonWriter, EscapesWhatMustBeAndLeavesTheRest)
@@ -145,6 +144,6 @@ TEST(JsonWriterDeathTest, AFieldNeedsAnObject)
 	FString Text;
 	const TSharedRef<TJsonWriter<>> Writer = TJsonWriterFactory<>::Create(&Text);
 	Writer->WriteArrayStart();
-	EXPECT_DEATH(Writer->WriteValue(TEXT("Name"), 1),
-				 "Assertion failed: Stack.Num\\(\\) > 0 && Stack.Last\\(\\) == EJson::Object");
+	EXPECT_DEATH(
+		Writer->WriteValue(TEXT("Name"), 1), "Assertion failed: Stack.Num\\(\\) > 0 && Stack.Last\\(\\) == EJson::Object");
 }

@@ -82,7 +82,9 @@ std::optional<double> ParseNumber(std::string Source)
 	}
 	char* End = nullptr;
 	const double Value = std::strtod(Source.c_str(), &End);
-	if (Source.empty() || *End || !(std::isdigit(static_cast<unsigned char>(Source.front())) || Source.front() == '-' || Source.front() == '+' || Source.front() == '.'))
+	if (Source.empty() || *End ||
+		!(std::isdigit(static_cast<unsigned char>(Source.front())) || Source.front() == '-' || Source.front() == '+' ||
+			Source.front() == '.'))
 	{
 		return std::nullopt;
 	}
@@ -118,7 +120,8 @@ std::string FormatNumber(const char* Format, double Value)
 }
 
 /** Reads "F...(a, b, c)" with numbers; up to Wanted of them, at least Least. */
-bool ParseNumbers(const std::string& Source, const std::string& Name, size_t Least, size_t Wanted, std::vector<double>& OutNumbers)
+bool ParseNumbers(
+	const std::string& Source, const std::string& Name, size_t Least, size_t Wanted, std::vector<double>& OutNumbers)
 {
 	std::vector<std::string> Arguments;
 	if (!ParseCall(Source, Name, Arguments) || Arguments.size() < Least || Arguments.size() > Wanted)
@@ -141,7 +144,8 @@ bool ParseNumbers(const std::string& Source, const std::string& Name, size_t Lea
 bool IsForceInit(const std::string& Source, const std::string& Name)
 {
 	std::vector<std::string> Arguments;
-	return ParseCall(Source, Name, Arguments) && Arguments.size() == 1 && (Arguments[0] == "ForceInit" || Arguments[0] == "ForceInitToZero" || Arguments[0] == "EForceInit::ForceInit");
+	return ParseCall(Source, Name, Arguments) && Arguments.size() == 1 &&
+		(Arguments[0] == "ForceInit" || Arguments[0] == "ForceInitToZero" || Arguments[0] == "EForceInit::ForceInit");
 }
 
 std::optional<std::string> ConvertVector(const std::string& Name, const std::string& Source)
@@ -164,11 +168,11 @@ std::optional<std::string> ConvertVector2D(const std::string& Source)
 	std::vector<double> Numbers;
 	if (Source == "FVector2D::ZeroVector" || IsForceInit(Source, "FVector2D"))
 	{
-		Numbers = { 0.0, 0.0 };
+		Numbers = {0.0, 0.0};
 	}
 	else if (Source == "FVector2D::UnitVector")
 	{
-		Numbers = { 1.0, 1.0 };
+		Numbers = {1.0, 1.0};
 	}
 	else if (!ParseNumbers(Source, "FVector2D", 1, 2, Numbers))
 	{
@@ -181,14 +185,14 @@ std::optional<std::string> ConvertVector2D(const std::string& Source)
 std::optional<std::string> ConvertLinearColor(const std::string& Source)
 {
 	static const std::map<std::string, std::vector<double>> Named = {
-		{ "FLinearColor::White", { 1.0, 1.0, 1.0, 1.0 } },
-		{ "FLinearColor::Gray", { 0.5, 0.5, 0.5, 1.0 } },
-		{ "FLinearColor::Black", { 0.0, 0.0, 0.0, 1.0 } },
-		{ "FLinearColor::Transparent", { 0.0, 0.0, 0.0, 0.0 } },
-		{ "FLinearColor::Red", { 1.0, 0.0, 0.0, 1.0 } },
-		{ "FLinearColor::Green", { 0.0, 1.0, 0.0, 1.0 } },
-		{ "FLinearColor::Blue", { 0.0, 0.0, 1.0, 1.0 } },
-		{ "FLinearColor::Yellow", { 1.0, 1.0, 0.0, 1.0 } },
+		{"FLinearColor::White", {1.0, 1.0, 1.0, 1.0}},
+		{"FLinearColor::Gray", {0.5, 0.5, 0.5, 1.0}},
+		{"FLinearColor::Black", {0.0, 0.0, 0.0, 1.0}},
+		{"FLinearColor::Transparent", {0.0, 0.0, 0.0, 0.0}},
+		{"FLinearColor::Red", {1.0, 0.0, 0.0, 1.0}},
+		{"FLinearColor::Green", {0.0, 1.0, 0.0, 1.0}},
+		{"FLinearColor::Blue", {0.0, 0.0, 1.0, 1.0}},
+		{"FLinearColor::Yellow", {1.0, 1.0, 0.0, 1.0}},
 	};
 	std::vector<double> Numbers;
 	const auto It = Named.find(Source);
@@ -198,15 +202,15 @@ std::optional<std::string> ConvertLinearColor(const std::string& Source)
 	}
 	else if (IsForceInit(Source, "FLinearColor"))
 	{
-		Numbers = { 0.0, 0.0, 0.0, 0.0 };
+		Numbers = {0.0, 0.0, 0.0, 0.0};
 	}
 	else if (!ParseNumbers(Source, "FLinearColor", 3, 4, Numbers))
 	{
 		return std::nullopt;
 	}
 	Numbers.resize(4, 1.0);
-	return "(R=" + FormatNumber("%f", Numbers[0]) + ",G=" + FormatNumber("%f", Numbers[1]) + ",B=" + FormatNumber("%f", Numbers[2])
-		 + ",A=" + FormatNumber("%f", Numbers[3]) + ")";
+	return "(R=" + FormatNumber("%f", Numbers[0]) + ",G=" + FormatNumber("%f", Numbers[1]) +
+		",B=" + FormatNumber("%f", Numbers[2]) + ",A=" + FormatNumber("%f", Numbers[3]) + ")";
 }
 
 std::optional<std::string> ConvertStruct(const std::string& Name, const std::string& Source)
@@ -264,7 +268,9 @@ std::optional<std::string> ConvertText(const std::string& Source)
 		return std::string();
 	}
 	const std::string Call = "FText::FromString(";
-	return Source.compare(0, Call.size(), Call) == 0 ? ConvertString(Trimmed(Source.substr(Call.size(), Source.size() - Call.size() - 1))) : std::nullopt;
+	return Source.compare(0, Call.size(), Call) == 0
+		? ConvertString(Trimmed(Source.substr(Call.size(), Source.size() - Call.size() - 1)))
+		: std::nullopt;
 }
 }
 

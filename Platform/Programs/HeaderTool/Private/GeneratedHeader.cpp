@@ -37,9 +37,11 @@ std::string ApiPrefix(const FModuleInfo& Module)
 	return Module.Api.empty() ? std::string() : Module.Api + " ";
 }
 
-std::string WriteClassBody(const FModuleInfo& Module, const FHeaderInfo& Header, const FClassInfo& Class, const FTypeRegistry& Registry)
+std::string WriteClassBody(
+	const FModuleInfo& Module, const FHeaderInfo& Header, const FClassInfo& Class, const FTypeRegistry& Registry)
 {
-	FMacro Macro(FileId(Module, Header) + "_" + std::to_string(Class.BodyLine) + (Class.bLegacyBody ? "_GENERATED_BODY_LEGACY" : "_GENERATED_BODY"));
+	FMacro Macro(FileId(Module, Header) + "_" + std::to_string(Class.BodyLine) +
+		(Class.bLegacyBody ? "_GENERATED_BODY_LEGACY" : "_GENERATED_BODY"));
 	if (Class.bMinimalApi && !Module.Api.empty())
 	{
 		Macro.Add("DECLARE_CLASS_MINIMAL_API(" + Class.Name + ", " + Class.Super + ", " + Module.Api + ")");
@@ -50,7 +52,8 @@ std::string WriteClassBody(const FModuleInfo& Module, const FHeaderInfo& Header,
 	}
 	if (Class.bLegacyBody)
 	{
-		Macro.Add(ApiPrefix(Module) + "explicit " + Class.Name + "(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());");
+		Macro.Add(ApiPrefix(Module) + "explicit " + Class.Name +
+			"(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());");
 	}
 	else if (Class.Constructor == EConstructor::Generated)
 	{
@@ -61,8 +64,9 @@ std::string WriteClassBody(const FModuleInfo& Module, const FHeaderInfo& Header,
 		Macro.Add("{");
 		Macro.Add("}");
 	}
-	Macro.Add((Class.Constructor == EConstructor::Default ? "DEFINE_DEFAULT_CONSTRUCTOR_CALL(" : "DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(")
-		+ Class.Name + ")");
+	Macro.Add((Class.Constructor == EConstructor::Default ? "DEFINE_DEFAULT_CONSTRUCTOR_CALL("
+														  : "DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(") +
+		Class.Name + ")");
 	Macro.Add("friend struct Z_Construct_UClass_" + Class.Name + "_Statics;");
 	for (const FFunctionInfo& Function : Class.Functions)
 	{

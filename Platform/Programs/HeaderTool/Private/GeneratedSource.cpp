@@ -92,7 +92,8 @@ private:
 			Includes.insert(Known->Include);
 			if (Known->Kind == ETypeKind::Enum && Known->EnumForm != EEnumForm::EnumClass)
 			{
-				EnumDeclarations.insert("template <>\n" + (Known->Api.empty() ? "" : Known->Api + " ") + "UEnum* StaticEnum<" + Type.Name + ">();\n");
+				EnumDeclarations.insert(
+					"template <>\n" + (Known->Api.empty() ? "" : Known->Api + " ") + "UEnum* StaticEnum<" + Type.Name + ">();\n");
 			}
 		}
 		for (const FTypeRef& Argument : Type.Arguments)
@@ -174,12 +175,13 @@ private:
 		{
 			const FPropertyInfo& Property = Properties[Index];
 			const std::string Offset = Property.bBitField ? "0" : "STRUCT_OFFSET(" + Owner + ", " + Property.CppName() + ")";
-			Out << "\t\t\t{ " << CStringLiteral(Property.Name) << ", &NewProperty<" << (Property.bBitField ? "bool" : Property.Type.ValueText()) << ">, "
-				<< Offset << ", " << JoinFlags(Property.Flags, "CPF_None") << ", " << MetaData[Index];
+			Out << "\t\t\t{ " << CStringLiteral(Property.Name) << ", &NewProperty<"
+				<< (Property.bBitField ? "bool" : Property.Type.ValueText()) << ">, " << Offset << ", "
+				<< JoinFlags(Property.Flags, "CPF_None") << ", " << MetaData[Index];
 			if (Property.bBitField)
 			{
-				Out << ", 1, sizeof(" << Property.Type.Name << "), [](void* Container) { static_cast<" << Owner << "*>(Container)->" << Property.CppName()
-					<< " = 1; }";
+				Out << ", 1, sizeof(" << Property.Type.Name << "), [](void* Container) { static_cast<" << Owner
+					<< "*>(Container)->" << Property.CppName() << " = 1; }";
 			}
 			else if (!Property.ArrayDim.empty())
 			{
@@ -198,7 +200,8 @@ private:
 	}
 
 	/** The function that makes the type at its first call, and the static that has it called. */
-	void WriteAccessor(const std::string& Type, const std::string& Template, const std::string& Function, const std::string& Statics, const std::string& Name)
+	void WriteAccessor(const std::string& Type, const std::string& Template, const std::string& Function,
+		const std::string& Statics, const std::string& Name)
 	{
 		Out << Template << Type << "* " << Function << "()\n{\n";
 		Out << "\tstatic " << Type << "* Result = nullptr;\n";
@@ -211,7 +214,9 @@ private:
 	void WriteEnum(const FEnumInfo& Enum)
 	{
 		const std::string Statics = "Z_Construct_UEnum_" + Enum.Name + "_Statics";
-		const char* const Form = Enum.Form == EEnumForm::EnumClass ? "EnumClass" : Enum.Form == EEnumForm::Namespaced ? "Namespaced" : "Regular";
+		const char* const Form = Enum.Form == EEnumForm::EnumClass ? "EnumClass"
+			: Enum.Form == EEnumForm::Namespaced				   ? "Namespaced"
+																   : "Regular";
 		const std::string Scope = Enum.Form == EEnumForm::Regular ? "" : Enum.Name + "::";
 		Out << "struct " << Statics << "\n{\n\tstatic UEnum* Construct(UEnum*& OutEnum)\n\t{\n\t\tusing namespace UECodeGen;\n\n";
 		std::vector<std::string> EntryMetaData;
@@ -223,12 +228,13 @@ private:
 		for (size_t Index = 0; Index < Enum.Entries.size(); ++Index)
 		{
 			const std::string& Name = Enum.Entries[Index].Name;
-			Out << "\t\t\t{ " << CStringLiteral(Name) << ", static_cast<int64>(" << Scope << Name << "), " << EntryMetaData[Index] << " },\n";
+			Out << "\t\t\t{ " << CStringLiteral(Name) << ", static_cast<int64>(" << Scope << Name << "), " << EntryMetaData[Index]
+				<< " },\n";
 		}
 		Out << "\t\t};\n";
 		const std::string MetaData = WriteMetaData("MetaData", WithModulePath(Enum.MetaData));
-		Out << "\t\tstatic const FEnumParams Enum = { " << CStringLiteral(Module.Package()) << ", " << CStringLiteral(Enum.Name) << ", "
-			<< CStringLiteral(Enum.CppType()) << ", UEnum::ECppForm::" << Form << ", Entries, " << MetaData << " };\n";
+		Out << "\t\tstatic const FEnumParams Enum = { " << CStringLiteral(Module.Package()) << ", " << CStringLiteral(Enum.Name)
+			<< ", " << CStringLiteral(Enum.CppType()) << ", UEnum::ECppForm::" << Form << ", Entries, " << MetaData << " };\n";
 		Out << "\t\treturn ConstructEnum(OutEnum, Enum);\n\t}\n};\n\n";
 		WriteAccessor("UEnum", "template <>\n", "StaticEnum<" + Enum.CppType() + ">", Statics, Enum.Name);
 	}
@@ -238,15 +244,17 @@ private:
 	void WriteStruct(const FStructInfo& Struct)
 	{
 		const std::string Statics = "Z_Construct_UScriptStruct_" + Struct.Name + "_Statics";
-		Out << "struct " << Statics << "\n{\n\tstatic UScriptStruct* Construct(UScriptStruct*& OutStruct)\n\t{\n\t\tusing namespace UECodeGen;\n\n";
+		Out << "struct " << Statics
+			<< "\n{\n\tstatic UScriptStruct* Construct(UScriptStruct*& OutStruct)\n\t{\n\t\tusing namespace UECodeGen;\n\n";
 		const std::string Properties = WriteProperties("Properties", Struct.Name, Struct.Properties);
 		const std::string MetaData = WriteMetaData("MetaData", WithModulePath(Struct.MetaData));
 		const std::string Super = Struct.Super.empty() ? "nullptr" : "&TBaseStructure<" + Struct.Super + ">::Get";
-		Out << "\t\tstatic const FStructParams Struct = { " << CStringLiteral(Module.Package()) << ", " << CStringLiteral(WithoutPrefix(Struct.Name)) << ", "
-			<< Super << ", " << JoinFlags(Struct.Flags, "STRUCT_NoFlags") << ", TCppStructOps<" << Struct.Name << ">::Get(), " << Properties << ", "
-			<< MetaData << " };\n";
+		Out << "\t\tstatic const FStructParams Struct = { " << CStringLiteral(Module.Package()) << ", "
+			<< CStringLiteral(WithoutPrefix(Struct.Name)) << ", " << Super << ", " << JoinFlags(Struct.Flags, "STRUCT_NoFlags")
+			<< ", TCppStructOps<" << Struct.Name << ">::Get(), " << Properties << ", " << MetaData << " };\n";
 		Out << "\t\treturn ConstructStruct(OutStruct, Struct);\n\t}\n};\n\n";
-		const std::string Function = Struct.bNoExport ? "TBaseStructure<" + Struct.Name + ">::Get" : Struct.Name + "::StaticStruct";
+		const std::string Function =
+			Struct.bNoExport ? "TBaseStructure<" + Struct.Name + ">::Get" : Struct.Name + "::StaticStruct";
 		WriteAccessor("UScriptStruct", "", Function, Statics, Struct.Name);
 	}
 
@@ -261,7 +269,7 @@ private:
 			FPropertyInfo ReturnValue;
 			ReturnValue.Name = "ReturnValue";
 			ReturnValue.Type = Function.ReturnType;
-			ReturnValue.Flags = { "CPF_Parm", "CPF_OutParm", "CPF_ReturnParm" };
+			ReturnValue.Flags = {"CPF_Parm", "CPF_OutParm", "CPF_ReturnParm"};
 			if (Function.ReturnType.bConst)
 			{
 				ReturnValue.Flags.push_back("CPF_ConstParm");
@@ -278,7 +286,8 @@ private:
 		{
 			if (!Parameter.Default.empty())
 			{
-				SetMetaData(MetaData, "CPP_Default_" + Parameter.Name, ConvertDefaultValue(Parameter.Type, Parameter.Default, Registry).value_or(""));
+				SetMetaData(MetaData, "CPP_Default_" + Parameter.Name,
+					ConvertDefaultValue(Parameter.Type, Parameter.Default, Registry).value_or(""));
 			}
 		}
 		return WithModulePath(MetaData);
@@ -356,9 +365,11 @@ private:
 		{
 			Flags.push_back("CLASS_RequiredAPI");
 		}
-		Out << "\t\tstatic const FClassParams Class = { " << CStringLiteral(Module.Package()) << ", " << CStringLiteral(WithoutPrefix(Class.Name)) << ", &"
-			<< Class.Super << "::StaticClass, " << JoinFlags(Flags, "CLASS_None") << ", sizeof(" << Class.Name << "), alignof(" << Class.Name << "), &"
-			<< Class.Name << "::__DefaultConstructor, &" << Class.Name << "::AddReferencedObjects, " << Functions << ", " << Properties << ", " << MetaData;
+		Out << "\t\tstatic const FClassParams Class = { " << CStringLiteral(Module.Package()) << ", "
+			<< CStringLiteral(WithoutPrefix(Class.Name)) << ", &" << Class.Super << "::StaticClass, "
+			<< JoinFlags(Flags, "CLASS_None") << ", sizeof(" << Class.Name << "), alignof(" << Class.Name << "), &" << Class.Name
+			<< "::__DefaultConstructor, &" << Class.Name << "::AddReferencedObjects, " << Functions << ", " << Properties << ", "
+			<< MetaData;
 		if (!Class.ConfigName.empty())
 		{
 			Out << ", " << CStringLiteral(Class.ConfigName);

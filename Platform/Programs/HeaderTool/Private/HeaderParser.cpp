@@ -7,10 +7,11 @@
 
 namespace
 {
-const std::set<std::string_view> GUnsupportedMacros = { "UINTERFACE", "GENERATED_IINTERFACE_BODY", "GENERATED_UINTERFACE_BODY", "UDELEGATE",
-	"DECLARE_DYNAMIC_DELEGATE", "DECLARE_DYNAMIC_MULTICAST_DELEGATE" };
+const std::set<std::string_view> GUnsupportedMacros = {"UINTERFACE", "GENERATED_IINTERFACE_BODY", "GENERATED_UINTERFACE_BODY",
+	"UDELEGATE", "DECLARE_DYNAMIC_DELEGATE", "DECLARE_DYNAMIC_MULTICAST_DELEGATE"};
 
-const std::set<std::string_view> GMemberMacros = { "UPROPERTY", "UFUNCTION", "GENERATED_BODY", "GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY" };
+const std::set<std::string_view> GMemberMacros = {
+	"UPROPERTY", "UFUNCTION", "GENERATED_BODY", "GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY"};
 
 class FHeaderParser : private FMemberParser
 {
@@ -29,7 +30,8 @@ public:
 		}
 		if (!bFailed && Header.IsReflected() && !Header.bIncludesGenerated)
 		{
-			Fail(FirstReflectedLine(), "expected #include \"" + GeneratedName() + "\" as the last include of a header with reflected types, found none");
+			Fail(FirstReflectedLine(),
+				"expected #include \"" + GeneratedName() + "\" as the last include of a header with reflected types, found none");
 		}
 		return !bFailed;
 	}
@@ -79,13 +81,15 @@ private:
 		}
 		else if (IsUnsupported(Token.Text))
 		{
-			Fail(Token.Line, "expected UCLASS, USTRUCT or UENUM, found '" + std::string(Token.Text) + "', which is not supported");
+			Fail(
+				Token.Line, "expected UCLASS, USTRUCT or UENUM, found '" + std::string(Token.Text) + "', which is not supported");
 		}
 	}
 
 	static bool IsUnsupported(std::string_view Text)
 	{
-		return std::any_of(GUnsupportedMacros.begin(), GUnsupportedMacros.end(), [Text](std::string_view Macro) { return Text.substr(0, Macro.size()) == Macro; });
+		return std::any_of(GUnsupportedMacros.begin(), GUnsupportedMacros.end(),
+			[Text](std::string_view Macro) { return Text.substr(0, Macro.size()) == Macro; });
 	}
 
 	void ParseInclude(const FToken& Token)
@@ -98,7 +102,8 @@ private:
 		}
 		if (Header.bIncludesGenerated)
 		{
-			Fail(Token.Line, "expected \"" + GeneratedName() + "\" to be the last include, found " + std::string(Token.Text) + " behind it");
+			Fail(Token.Line,
+				"expected \"" + GeneratedName() + "\" to be the last include, found " + std::string(Token.Text) + " behind it");
 			return;
 		}
 		const std::string_view Suffix = ".generated.h";
@@ -150,7 +155,9 @@ private:
 		}
 		if (!Enum.Underlying.empty() && Enum.Underlying != "uint8" && FindMetaData(Enum.MetaData, "BlueprintType"))
 		{
-			Fail(Enum.Line, "'" + Enum.Name + "': expected uint8 as underlying type of a BlueprintType enumeration, found '" + Enum.Underlying + "'");
+			Fail(Enum.Line,
+				"'" + Enum.Name + "': expected uint8 as underlying type of a BlueprintType enumeration, found '" +
+					Enum.Underlying + "'");
 		}
 		Expect("{", "behind the name of '" + Enum.Name + "'");
 		while (!bFailed && !Current().Is("}"))
@@ -190,7 +197,8 @@ private:
 		}
 		if (!TakeIf(",") && !Current().Is("}"))
 		{
-			Fail(Current().Line, "expected ',' or '}' behind entry '" + Entry.Name + "' of '" + Enum.Name + "', found " + Quoted(Current()));
+			Fail(Current().Line,
+				"expected ',' or '}' behind entry '" + Entry.Name + "' of '" + Enum.Name + "', found " + Quoted(Current()));
 		}
 		Enum.Entries.push_back(Entry);
 	}
@@ -327,8 +335,10 @@ private:
 			{
 				if (Other.Name == Function.Name)
 				{
-					Fail(Function.Line, "'" + Class.Name + "::" + Function.Name + "': expected one function of that name, found another in line "
-						+ std::to_string(Other.Line) + " (reflected functions cannot be overloaded)");
+					Fail(Function.Line,
+						"'" + Class.Name + "::" + Function.Name +
+							"': expected one function of that name, found another in line " + std::to_string(Other.Line) +
+							" (reflected functions cannot be overloaded)");
 				}
 			}
 			Class.Functions.push_back(std::move(Function));
@@ -354,7 +364,8 @@ private:
 		else if (Token.Is(Class.Name) && Ahead(1).Is("(") && !Previous().Is("~"))
 		{
 			const bool bTakesNothing = Ahead(2).Is(")") || (Ahead(2).Is("void") && Ahead(3).Is(")"));
-			const bool bTakesInitializer = (Ahead(2).Is("const") && Ahead(3).Is("FObjectInitializer")) || Ahead(2).Is("FObjectInitializer");
+			const bool bTakesInitializer =
+				(Ahead(2).Is("const") && Ahead(3).Is("FObjectInitializer")) || Ahead(2).Is("FObjectInitializer");
 			if (bTakesInitializer)
 			{
 				Class.Constructor = EConstructor::ObjectInitializer;

@@ -48,7 +48,8 @@ bool WriteIfChanged(const std::string& Path, const std::string& Text)
 	File.close();
 	if (!File)
 	{
-		std::fprintf(stderr, "%s(1): Error: expected to be able to write the file, found that it cannot be written\n", Path.c_str());
+		std::fprintf(
+			stderr, "%s(1): Error: expected to be able to write the file, found that it cannot be written\n", Path.c_str());
 	}
 	return bool(File);
 }
@@ -56,7 +57,7 @@ bool WriteIfChanged(const std::string& Path, const std::string& Text)
 /** Sources include a header by its path below Public or Private, in a folder of its own below the root otherwise. */
 std::string IncludePathOf(const std::string& ModulePath)
 {
-	for (const char* Folder : { "Public/", "Private/", "Classes/", "Tests/" })
+	for (const char* Folder : {"Public/", "Private/", "Classes/", "Tests/"})
 	{
 		if (ModulePath.rfind(Folder, 0) == 0)
 		{
@@ -76,19 +77,23 @@ bool ParseHeaders(const FOptions& Options, const std::vector<std::string>& Files
 		Header.ModulePath = std::filesystem::path(File).lexically_relative(Options.Get("root")).generic_string();
 		Header.IncludePath = IncludePathOf(Header.ModulePath);
 		std::string Source;
-		FError Error{ File, 1, "expected a header that can be read, found none" };
+		FError Error{File, 1, "expected a header that can be read, found none"};
 		if (!ReadFile(File, Source) || !ParseHeader(Source, Header, Error))
 		{
 			std::fprintf(stderr, "%s\n", Error.Format().c_str());
 			bSuccess = false;
 			continue;
 		}
-		const auto HasSameName = [&Header](const FHeaderInfo& Other) { return Other.BaseName() == Header.BaseName(); };
+		const auto HasSameName = [&Header](const FHeaderInfo& Other)
+		{
+			return Other.BaseName() == Header.BaseName();
+		};
 		const auto Other = std::find_if(Module.Headers.begin(), Module.Headers.end(), HasSameName);
 		if (Header.IsReflected() && Other != Module.Headers.end())
 		{
-			std::fprintf(stderr, "%s(1): Error: expected a name that no other reflected header of the module has, found that of %s\n", File.c_str(),
-				Other->File.c_str());
+			std::fprintf(stderr,
+				"%s(1): Error: expected a name that no other reflected header of the module has, found that of %s\n",
+				File.c_str(), Other->File.c_str());
 			bSuccess = false;
 		}
 		if (Header.IsReflected())
@@ -119,7 +124,8 @@ bool WriteModule(const FModuleInfo& Module, const FTypeRegistry& Registry, const
 	bool bSuccess = true;
 	for (const FHeaderInfo& Header : Module.Headers)
 	{
-		bSuccess &= WriteIfChanged(Folder + "/" + Header.BaseName() + ".generated.h", WriteGeneratedHeader(Module, Header, Registry));
+		bSuccess &=
+			WriteIfChanged(Folder + "/" + Header.BaseName() + ".generated.h", WriteGeneratedHeader(Module, Header, Registry));
 		bSuccess &= WriteIfChanged(Folder + "/" + Header.BaseName() + ".gen.cpp", WriteGeneratedSource(Module, Header, Registry));
 	}
 	bSuccess &= WriteIfChanged(Folder + "/" + Module.Name + ".init.gen.cpp", WriteModuleSource(Module));
@@ -146,7 +152,9 @@ int main(int ArgumentCount, char** Arguments)
 	}
 	if (Options.Get("module").empty() || Options.Get("output").empty())
 	{
-		std::fprintf(stderr, "HeaderTool --module <Name> --root <folder> --output <folder> [--api <MACRO>] [--imports <manifest>...] --headers <header>...\n");
+		std::fprintf(stderr,
+			"HeaderTool --module <Name> --root <folder> --output <folder> [--api <MACRO>] [--imports <manifest>...] --headers "
+			"<header>...\n");
 		return 1;
 	}
 

@@ -5,7 +5,7 @@
 
 namespace
 {
-const std::set<std::string_view> GBitFieldTypes = { "uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64" };
+const std::set<std::string_view> GBitFieldTypes = {"uint8", "uint16", "uint32", "uint64", "int8", "int16", "int32", "int64"};
 
 const char* AccessFlag(EAccess Access, bool bFunction)
 {
@@ -26,7 +26,8 @@ bool EndsWithApi(std::string_view Text)
 }
 }
 
-std::vector<FSpecifier> FMemberParser::ApplyMacro(ESpecifierTarget Target, const FToken& Macro, std::vector<std::string>& OutFlags, FMetaData& OutMetaData)
+std::vector<FSpecifier> FMemberParser::ApplyMacro(
+	ESpecifierTarget Target, const FToken& Macro, std::vector<std::string>& OutFlags, FMetaData& OutMetaData)
 {
 	const std::string ToolTip = FormatToolTip(Macro.Comment);
 	const std::vector<FSpecifier> Specifiers = ParseSpecifiers(GetMacroName(Target), OutMetaData);
@@ -46,7 +47,9 @@ void FMemberParser::RefuseUndecided(const FToken& Token)
 {
 	if (Token.bUndecided)
 	{
-		Fail(Token.Line, std::string(Token.Text) + ": expected no preprocessor condition around it but WITH_EDITOR or WITH_EDITORONLY_DATA, found one");
+		Fail(Token.Line,
+			std::string(Token.Text) +
+				": expected no preprocessor condition around it but WITH_EDITOR or WITH_EDITORONLY_DATA, found one");
 	}
 }
 
@@ -59,7 +62,8 @@ FPropertyInfo FMemberParser::ParseProperty(const FToken& Macro, EAccess Access)
 	Property.Type = ParseType();
 	Property.Name = ExpectIdentifier("the name of a property");
 	const std::string Suffix = "_DEPRECATED";
-	if (Property.Name.size() > Suffix.size() && Property.Name.compare(Property.Name.size() - Suffix.size(), Suffix.size(), Suffix) == 0)
+	if (Property.Name.size() > Suffix.size() &&
+		Property.Name.compare(Property.Name.size() - Suffix.size(), Suffix.size(), Suffix) == 0)
 	{
 		Property.Name.resize(Property.Name.size() - Suffix.size());
 		Property.Flags.push_back("CPF_Deprecated");
@@ -79,7 +83,8 @@ FPropertyInfo FMemberParser::ParseProperty(const FToken& Macro, EAccess Access)
 		Property.bBitField = true;
 		if (!GBitFieldTypes.count(Property.Type.Name))
 		{
-			Fail(Property.Line, "'" + Property.Name + "': expected an integer type for a bitfield, found '" + Property.Type.Name + "'");
+			Fail(Property.Line,
+				"'" + Property.Name + "': expected an integer type for a bitfield, found '" + Property.Type.Name + "'");
 		}
 		if (!TakeIf("1"))
 		{
@@ -96,9 +101,13 @@ FPropertyInfo FMemberParser::ParseProperty(const FToken& Macro, EAccess Access)
 	}
 	Expect(";", "behind property '" + Property.Name + "'");
 
-	if (Access == EAccess::Private && Property.HasFlag("CPF_BlueprintVisible") && !FindMetaData(Property.MetaData, "AllowPrivateAccess"))
+	if (Access == EAccess::Private && Property.HasFlag("CPF_BlueprintVisible") &&
+		!FindMetaData(Property.MetaData, "AllowPrivateAccess"))
 	{
-		Fail(Property.Line, "'" + Property.Name + "': expected a public or protected property or the metadata AllowPrivateAccess, found a private BlueprintReadWrite or BlueprintReadOnly property");
+		Fail(Property.Line,
+			"'" + Property.Name +
+				"': expected a public or protected property or the metadata AllowPrivateAccess, found a private "
+				"BlueprintReadWrite or BlueprintReadOnly property");
 	}
 	Property.Flags.push_back(AccessFlag(Access, false));
 	return Property;
@@ -155,7 +164,10 @@ FFunctionInfo FMemberParser::ParseFunction(const FToken& Macro, EAccess Access)
 	{
 		Function.Flags.push_back("FUNC_Const");
 	}
-	const auto IsOut = [](const FPropertyInfo& Parameter) { return Parameter.HasFlag("CPF_OutParm"); };
+	const auto IsOut = [](const FPropertyInfo& Parameter)
+	{
+		return Parameter.HasFlag("CPF_OutParm");
+	};
 	const bool bHasOut = std::any_of(Function.Parameters.begin(), Function.Parameters.end(), IsOut);
 	if (bHasOut)
 	{
@@ -163,7 +175,8 @@ FFunctionInfo FMemberParser::ParseFunction(const FToken& Macro, EAccess Access)
 	}
 	if (Function.HasFlag("FUNC_BlueprintPure") && bVoid && !bHasOut)
 	{
-		Fail(Function.Line, "'" + Function.Name + "': expected a return value or an out parameter of a BlueprintPure function, found none");
+		Fail(Function.Line,
+			"'" + Function.Name + "': expected a return value or an out parameter of a BlueprintPure function, found none");
 	}
 	return Function;
 }

@@ -16,7 +16,8 @@ protected:
 	using FTokenReader::FTokenReader;
 
 	/** Reads the specifiers of a macro; its comment becomes the metadata ToolTip. */
-	std::vector<FSpecifier> ApplyMacro(ESpecifierTarget Target, const FToken& Macro, std::vector<std::string>& OutFlags, FMetaData& OutMetaData);
+	std::vector<FSpecifier> ApplyMacro(
+		ESpecifierTarget Target, const FToken& Macro, std::vector<std::string>& OutFlags, FMetaData& OutMetaData);
 	/** A reflected type or member must not depend on a condition that the tool cannot decide. */
 	void RefuseUndecided(const FToken& Token);
 	FPropertyInfo ParseProperty(const FToken& Macro, EAccess Access);

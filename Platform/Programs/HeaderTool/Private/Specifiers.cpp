@@ -5,6 +5,7 @@
 
 namespace
 {
+// clang-format off
 const FSpecifierRule GClassRules[] = {
 	// Key                    Flags                                         Metadata             Value
 	{ "Abstract",             "CLASS_Abstract",                             "",                  "" },
@@ -77,6 +78,7 @@ const FSpecifierRule GPropertyRules[] = {
 	{ "Category",             "",                                           "Category",          "" },
 	{ "DisplayName",          "",                                           "DisplayName",       "" },
 };
+// clang-format on
 
 struct FTarget
 {
@@ -90,22 +92,23 @@ FTarget GetTarget(ESpecifierTarget Target)
 	switch (Target)
 	{
 		case ESpecifierTarget::Class:
-			return { "UCLASS", std::begin(GClassRules), std::end(GClassRules) };
+			return {"UCLASS", std::begin(GClassRules), std::end(GClassRules)};
 		case ESpecifierTarget::Struct:
-			return { "USTRUCT", std::begin(GStructRules), std::end(GStructRules) };
+			return {"USTRUCT", std::begin(GStructRules), std::end(GStructRules)};
 		case ESpecifierTarget::Enum:
-			return { "UENUM", std::begin(GEnumRules), std::end(GEnumRules) };
+			return {"UENUM", std::begin(GEnumRules), std::end(GEnumRules)};
 		case ESpecifierTarget::Function:
-			return { "UFUNCTION", std::begin(GFunctionRules), std::end(GFunctionRules) };
+			return {"UFUNCTION", std::begin(GFunctionRules), std::end(GFunctionRules)};
 		case ESpecifierTarget::Property:
-			return { "UPROPERTY", std::begin(GPropertyRules), std::end(GPropertyRules) };
+			return {"UPROPERTY", std::begin(GPropertyRules), std::end(GPropertyRules)};
 	}
 	return {};
 }
 
 bool EqualsIgnoringCase(const std::string& Left, const std::string& Right)
 {
-	return std::equal(Left.begin(), Left.end(), Right.begin(), Right.end(), [](char A, char B) { return std::tolower(A) == std::tolower(B); });
+	return std::equal(
+		Left.begin(), Left.end(), Right.begin(), Right.end(), [](char A, char B) { return std::tolower(A) == std::tolower(B); });
 }
 
 std::string Joined(const std::vector<std::string>& Values)
@@ -119,14 +122,14 @@ std::string Joined(const std::vector<std::string>& Values)
 }
 }
 
-const FSpecifier* ApplySpecifiers(ESpecifierTarget Target, const std::vector<FSpecifier>& Specifiers, std::vector<std::string>& OutFlags,
-	FMetaData& OutMetaData)
+const FSpecifier* ApplySpecifiers(ESpecifierTarget Target, const std::vector<FSpecifier>& Specifiers,
+	std::vector<std::string>& OutFlags, FMetaData& OutMetaData)
 {
 	const FTarget Table = GetTarget(Target);
 	for (const FSpecifier& Specifier : Specifiers)
 	{
-		const FSpecifierRule* const Rule = std::find_if(
-			Table.Begin, Table.End, [&Specifier](const FSpecifierRule& Candidate) { return EqualsIgnoringCase(Candidate.Key, Specifier.Key); });
+		const FSpecifierRule* const Rule = std::find_if(Table.Begin, Table.End,
+			[&Specifier](const FSpecifierRule& Candidate) { return EqualsIgnoringCase(Candidate.Key, Specifier.Key); });
 		if (Rule == Table.End)
 		{
 			return &Specifier;
@@ -187,7 +190,7 @@ std::string FormatToolTip(const std::string& Comment)
 		size_t Begin = Line.find_first_not_of(" \t");
 		Begin = Begin == std::string::npos ? Line.size() : Begin;
 		Line.erase(0, Begin);
-		for (const char* Sign : { "/**", "/*", "*/", "///", "//", "*" })
+		for (const char* Sign : {"/**", "/*", "*/", "///", "//", "*"})
 		{
 			if (Line.rfind(Sign, 0) == 0)
 			{

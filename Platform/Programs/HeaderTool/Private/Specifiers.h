@@ -40,8 +40,8 @@ enum class ESpecifierTarget
  *
  * @return The first specifier that the table does not know, null if it knows all.
  */
-const FSpecifier* ApplySpecifiers(ESpecifierTarget Target, const std::vector<FSpecifier>& Specifiers, std::vector<std::string>& OutFlags,
-	FMetaData& OutMetaData);
+const FSpecifier* ApplySpecifiers(ESpecifierTarget Target, const std::vector<FSpecifier>& Specifiers,
+	std::vector<std::string>& OutFlags, FMetaData& OutMetaData);
 
 /** "UCLASS" and so on. */
 const char* GetMacroName(ESpecifierTarget Target);

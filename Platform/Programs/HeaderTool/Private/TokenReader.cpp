@@ -47,7 +47,7 @@ void FTokenReader::Fail(int Line, const std::string& Text)
 {
 	if (!bFailed)
 	{
-		Error = { File, Line, Text };
+		Error = {File, Line, Text};
 		bFailed = true;
 		Place = Tokens.size() - 1;
 	}

@@ -150,10 +150,12 @@ private:
 				Advance(1);
 			}
 		}
-		else if (std::isdigit(static_cast<unsigned char>(Peek())) || (Peek() == '.' && std::isdigit(static_cast<unsigned char>(Peek(1)))))
+		else if (std::isdigit(static_cast<unsigned char>(Peek())) ||
+			(Peek() == '.' && std::isdigit(static_cast<unsigned char>(Peek(1)))))
 		{
 			Kind = ETokenKind::Number;
-			while (IsIdentifierPart(Peek()) || Peek() == '.' || ((Peek() == '-' || Peek() == '+') && std::tolower(Source[Place - 1]) == 'e'))
+			while (IsIdentifierPart(Peek()) || Peek() == '.' ||
+				((Peek() == '-' || Peek() == '+') && std::tolower(Source[Place - 1]) == 'e'))
 			{
 				Advance(1);
 			}

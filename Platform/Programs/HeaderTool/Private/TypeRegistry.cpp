@@ -9,42 +9,44 @@
 namespace
 {
 const std::map<std::string, ETypeKind> GCoreTypes = {
-	{ "bool", ETypeKind::Bool },
-	{ "int8", ETypeKind::Integer },
-	{ "int16", ETypeKind::Integer },
-	{ "int32", ETypeKind::Integer },
-	{ "int64", ETypeKind::Integer },
-	{ "uint8", ETypeKind::Integer },
-	{ "uint16", ETypeKind::Integer },
-	{ "uint32", ETypeKind::Integer },
-	{ "uint64", ETypeKind::Integer },
-	{ "float", ETypeKind::Float },
-	{ "double", ETypeKind::Float },
-	{ "FString", ETypeKind::String },
-	{ "FName", ETypeKind::Name },
-	{ "FText", ETypeKind::Text },
-	{ "TArray", ETypeKind::Array },
-	{ "TSet", ETypeKind::Set },
-	{ "TMap", ETypeKind::Map },
+	{"bool", ETypeKind::Bool},
+	{"int8", ETypeKind::Integer},
+	{"int16", ETypeKind::Integer},
+	{"int32", ETypeKind::Integer},
+	{"int64", ETypeKind::Integer},
+	{"uint8", ETypeKind::Integer},
+	{"uint16", ETypeKind::Integer},
+	{"uint32", ETypeKind::Integer},
+	{"uint64", ETypeKind::Integer},
+	{"float", ETypeKind::Float},
+	{"double", ETypeKind::Float},
+	{"FString", ETypeKind::String},
+	{"FName", ETypeKind::Name},
+	{"FText", ETypeKind::Text},
+	{"TArray", ETypeKind::Array},
+	{"TSet", ETypeKind::Set},
+	{"TMap", ETypeKind::Map},
 };
 
 const std::map<std::string, const char*> GIntrinsicClasses = {
-	{ "UObject", "UObject/Object.h" },
-	{ "UPackage", "UObject/Package.h" },
-	{ "UField", "UObject/Class.h" },
-	{ "UStruct", "UObject/Class.h" },
-	{ "UScriptStruct", "UObject/Class.h" },
-	{ "UFunction", "UObject/Class.h" },
-	{ "UEnum", "UObject/Class.h" },
-	{ "UClass", "UObject/Class.h" },
+	{"UObject", "UObject/Object.h"},
+	{"UPackage", "UObject/Package.h"},
+	{"UField", "UObject/Class.h"},
+	{"UStruct", "UObject/Class.h"},
+	{"UScriptStruct", "UObject/Class.h"},
+	{"UFunction", "UObject/Class.h"},
+	{"UEnum", "UObject/Class.h"},
+	{"UClass", "UObject/Class.h"},
 };
 
 /** What the visual scripting of the editor has no pin for. */
-const std::set<std::string> GNoScriptTypes = { "int8", "int16", "uint16", "uint32", "uint64" };
+const std::set<std::string> GNoScriptTypes = {"int8", "int16", "uint16", "uint32", "uint64"};
 
 const char* ConstructorText(EConstructor Constructor)
 {
-	return Constructor == EConstructor::Generated ? "Generated" : Constructor == EConstructor::Default ? "Default" : "ObjectInitializer";
+	return Constructor == EConstructor::Generated ? "Generated"
+		: Constructor == EConstructor::Default	  ? "Default"
+												  : "ObjectInitializer";
 }
 
 const char* FormText(EEnumForm Form)
@@ -110,7 +112,7 @@ public:
 	}
 
 private:
-	void Fail(int Line, const std::string& Text) { Errors.push_back({ File, Line, Text }); }
+	void Fail(int Line, const std::string& Text) { Errors.push_back({File, Line, Text}); }
 
 	void CheckProperty(const FPropertyInfo& Property, const std::string& Owner)
 	{
@@ -136,7 +138,8 @@ private:
 			CheckParameter(Parameter.Type, Parameter.Line, Place, bForScripts);
 			if (!Parameter.Default.empty() && !ConvertDefaultValue(Parameter.Type, Parameter.Default, Registry))
 			{
-				Fail(Parameter.Line, Place + ": expected a default value that can be told from its text, found '" + Parameter.Default + "'");
+				Fail(Parameter.Line,
+					Place + ": expected a default value that can be told from its text, found '" + Parameter.Default + "'");
 			}
 		}
 		if (Function.ReturnsValue())
@@ -181,7 +184,9 @@ private:
 		const size_t Wanted = Kind == ETypeKind::Map ? 2 : 1;
 		if (Type.Arguments.size() != Wanted)
 		{
-			Fail(Line, Place + ": expected " + std::to_string(Wanted) + " type arguments of '" + Type.Name + "', found '" + Type.ValueText() + "'");
+			Fail(Line,
+				Place + ": expected " + std::to_string(Wanted) + " type arguments of '" + Type.Name + "', found '" +
+					Type.ValueText() + "'");
 			return false;
 		}
 		for (const FTypeRef& Argument : Type.Arguments)
@@ -256,8 +261,8 @@ std::string FTypeRegistry::WriteManifest(const FModuleInfo& Module)
 		}
 		for (const FEnumInfo& Enum : Header.Enums)
 		{
-			Text << "enum " << Enum.CppType() << " " << Header.IncludePath << " " << FormText(Enum.Form) << " " << OrDash(Enum.Underlying) << " "
-				 << OrDash(Module.Api) << "\n";
+			Text << "enum " << Enum.CppType() << " " << Header.IncludePath << " " << FormText(Enum.Form) << " "
+				 << OrDash(Enum.Underlying) << " " << OrDash(Module.Api) << "\n";
 		}
 	}
 	return Text.str();
@@ -265,7 +270,7 @@ std::string FTypeRegistry::WriteManifest(const FModuleInfo& Module)
 
 bool FTypeRegistry::AddManifest(std::string_view Text, std::string& OutError)
 {
-	std::istringstream Lines{ std::string(Text) };
+	std::istringstream Lines{std::string(Text)};
 	for (std::string Line; std::getline(Lines, Line);)
 	{
 		std::istringstream Words(Line);
@@ -289,7 +294,9 @@ bool FTypeRegistry::AddManifest(std::string_view Text, std::string& OutError)
 			Type.Kind = ETypeKind::Enum;
 			std::string Form;
 			Words >> Form >> Type.Underlying >> Type.Api;
-			Type.EnumForm = Form == "EnumClass" ? EEnumForm::EnumClass : Form == "Namespaced" ? EEnumForm::Namespaced : EEnumForm::Regular;
+			Type.EnumForm = Form == "EnumClass" ? EEnumForm::EnumClass
+				: Form == "Namespaced"			? EEnumForm::Namespaced
+												: EEnumForm::Regular;
 			Type.Underlying = DashOr(Type.Underlying);
 			Type.Api = DashOr(Type.Api);
 		}
@@ -328,8 +335,10 @@ ETypeKind FTypeRegistry::KindOf(const FTypeRef& Type) const
 		{
 			return ETypeKind::Unknown;
 		}
-		return Type.Name == "TSubclassOf" ? ETypeKind::Class : Type.Name == "TWeakObjectPtr" ? ETypeKind::Weak
-			 : Type.Name == "TObjectPtr" ? ETypeKind::Object : ETypeKind::Unknown;
+		return Type.Name == "TSubclassOf"	? ETypeKind::Class
+			: Type.Name == "TWeakObjectPtr" ? ETypeKind::Weak
+			: Type.Name == "TObjectPtr"		? ETypeKind::Object
+											: ETypeKind::Unknown;
 	}
 	const FKnownType* const Known = Find(Type.Name);
 	if (!Known || !Type.Arguments.empty())

@@ -7,8 +7,10 @@ namespace
 /** The metadata text for "void F(<Type> X = <Default>)"; "refused" if the tool refuses the default. */
 std::string DefaultOf(const std::string& Type, const std::string& Default)
 {
-	const FParsedHeader Parsed("#include \"Thing.generated.h\"\nUENUM()\nenum class EMood : uint8 { Glad, Sad };\nUCLASS()\nclass UThing : public UObject\n{\n"
-							   "GENERATED_BODY()\nUFUNCTION()\nvoid F(" + Type + " X = " + Default + ", int32 Y = 1);\n};\n");
+	const FParsedHeader Parsed("#include \"Thing.generated.h\"\nUENUM()\nenum class EMood : uint8 { Glad, Sad "
+							   "};\nUCLASS()\nclass UThing : public UObject\n{\n"
+							   "GENERATED_BODY()\nUFUNCTION()\nvoid F(" +
+		Type + " X = " + Default + ", int32 Y = 1);\n};\n");
 	if (!Parsed.Errors.empty())
 	{
 		return "refused";

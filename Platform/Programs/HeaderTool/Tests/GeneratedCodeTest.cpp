@@ -239,9 +239,10 @@ static const UECodeGen::FAutoRegister AutoRegister_UThing(&UThing::StaticClass);
 TEST(GeneratedCode, ManifestNamesWhatOtherModulesMayUse)
 {
 	const FParsedHeader Parsed(GSource);
-	EXPECT_EQ(FTypeRegistry::WriteManifest(Parsed.Module), "class UThing Things/Thing.h Generated\n"
-														   "struct FPart Things/Thing.h\n"
-														   "enum EMood Things/Thing.h EnumClass uint8 GAME_API\n");
+	EXPECT_EQ(FTypeRegistry::WriteManifest(Parsed.Module),
+		"class UThing Things/Thing.h Generated\n"
+		"struct FPart Things/Thing.h\n"
+		"enum EMood Things/Thing.h EnumClass uint8 GAME_API\n");
 }
 
 TEST(GeneratedCode, ModuleSourceTakesInEachReflectedHeader)
@@ -250,19 +251,23 @@ TEST(GeneratedCode, ModuleSourceTakesInEachReflectedHeader)
 	FHeaderInfo Plain;
 	Plain.File = "/Game/Public/Plain.h";
 	Parsed.Module.Headers.push_back(Plain);
-	EXPECT_EQ(WriteModuleSource(Parsed.Module), "// Written by HeaderTool for module Game. Changes here are lost.\n\n#include \"Thing.gen.cpp\"\n");
+	EXPECT_EQ(WriteModuleSource(Parsed.Module),
+		"// Written by HeaderTool for module Game. Changes here are lost.\n\n#include \"Thing.gen.cpp\"\n");
 }
 
 TEST(GeneratedCode, TheConstructorFollowsWhatTheClassDeclares)
 {
 	const auto BodyOf = [](const std::string& Members)
 	{
-		return FParsedHeader("#include \"Thing.generated.h\"\nUCLASS()\nclass UThing : public UObject\n{\nGENERATED_BODY()\npublic:\n" + Members + "};\n")
+		return FParsedHeader(
+			"#include \"Thing.generated.h\"\nUCLASS()\nclass UThing : public UObject\n{\nGENERATED_BODY()\npublic:\n" + Members +
+			"};\n")
 			.GeneratedHeader();
 	};
 	EXPECT_NE(BodyOf("UThing();\n").find("DEFINE_DEFAULT_CONSTRUCTOR_CALL(UThing)"), std::string::npos);
 	EXPECT_EQ(BodyOf("UThing();\n").find("explicit UThing"), std::string::npos);
-	EXPECT_NE(BodyOf("UThing(const FObjectInitializer& X);\n").find("DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(UThing)"), std::string::npos);
+	EXPECT_NE(BodyOf("UThing(const FObjectInitializer& X);\n").find("DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(UThing)"),
+		std::string::npos);
 	EXPECT_EQ(BodyOf("UThing(const FObjectInitializer& X);\n").find("explicit UThing"), std::string::npos);
 	EXPECT_NE(BodyOf("~UThing() { if (true) {} }\n").find("explicit UThing"), std::string::npos);
 }
@@ -280,7 +285,9 @@ public:
 };
 )");
 	ASSERT_EQ(Parsed.Errors, std::vector<std::string>());
-	EXPECT_NE(Parsed.GeneratedSource().find("#include \"Other/Other.h\"\n\ntemplate <>\nOTHER_API UEnum* StaticEnum<EOther::Type>();\n"), std::string::npos);
+	EXPECT_NE(Parsed.GeneratedSource().find(
+				  "#include \"Other/Other.h\"\n\ntemplate <>\nOTHER_API UEnum* StaticEnum<EOther::Type>();\n"),
+		std::string::npos);
 }
 
 TEST(GeneratedCode, PartsThatTheEditorDoesNotSeeAreLeftOut)

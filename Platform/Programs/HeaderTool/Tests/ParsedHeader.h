@@ -14,9 +14,11 @@ struct FParsedHeader
 		Header.ModulePath = "Public/Things/Thing.h";
 		Header.IncludePath = "Things/Thing.h";
 		std::string Unused;
-		Registry.AddManifest("struct FVector UObject/NoExportTypes.h\nstruct FVector2D UObject/NoExportTypes.h\nstruct FRotator UObject/NoExportTypes.h\n"
-							 "struct FLinearColor UObject/NoExportTypes.h\nstruct FGuid UObject/NoExportTypes.h\n"
-							 "class UOther Other/Other.h ObjectInitializer\nenum EOther::Type Other/Other.h Namespaced - OTHER_API\n",
+		Registry.AddManifest(
+			"struct FVector UObject/NoExportTypes.h\nstruct FVector2D UObject/NoExportTypes.h\nstruct FRotator "
+			"UObject/NoExportTypes.h\n"
+			"struct FLinearColor UObject/NoExportTypes.h\nstruct FGuid UObject/NoExportTypes.h\n"
+			"class UOther Other/Other.h ObjectInitializer\nenum EOther::Type Other/Other.h Namespaced - OTHER_API\n",
 			Unused);
 		Module.Name = "Game";
 		Module.Api = "GAME_API";

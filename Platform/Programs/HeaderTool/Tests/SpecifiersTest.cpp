@@ -20,7 +20,8 @@ TEST(Specifiers, KnowTheirFlagsInAnyCase)
 {
 	std::vector<std::string> Flags;
 	FMetaData MetaData;
-	EXPECT_EQ(ApplySpecifiers(ESpecifierTarget::Property, {{"editanywhere", {}, 1}, {"Category", {"A|B"}, 1}}, Flags, MetaData), nullptr);
+	EXPECT_EQ(ApplySpecifiers(ESpecifierTarget::Property, {{"editanywhere", {}, 1}, {"Category", {"A|B"}, 1}}, Flags, MetaData),
+		nullptr);
 	EXPECT_EQ(Flags, std::vector<std::string>({"CPF_Edit"}));
 	EXPECT_EQ(MetaData, FMetaData({{"Category", "A|B"}}));
 }
@@ -37,7 +38,8 @@ TEST(Specifiers, ReportTheFirstThatIsUnknown)
 
 TEST(Specifiers, TakeListsUnquotedTextsAndLiteralsInARow)
 {
-	const FParsedHeader Parsed("#include \"Thing.generated.h\"\nUCLASS(HideCategories = (Physics, \"Old Stuff\"), meta = (Words = \"one \" \"two\", Bare = A|B, Alone))\n"
+	const FParsedHeader Parsed("#include \"Thing.generated.h\"\nUCLASS(HideCategories = (Physics, \"Old Stuff\"), meta = (Words "
+							   "= \"one \" \"two\", Bare = A|B, Alone))\n"
 							   "class UThing : public UObject\n{\nGENERATED_BODY()\n};\n");
 	ASSERT_EQ(Parsed.Errors, std::vector<std::string>());
 	const FMetaData& MetaData = Parsed.Header().Classes[0].MetaData;

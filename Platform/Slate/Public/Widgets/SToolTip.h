@@ -8,7 +8,7 @@ class SLATE_API SToolTip : public SCompoundWidget, public IToolTip
 {
 public:
 	SLATE_BEGIN_ARGS(SToolTip) {}
-		SLATE_ATTRIBUTE(FText, Text)
+	SLATE_ATTRIBUTE(FText, Text)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

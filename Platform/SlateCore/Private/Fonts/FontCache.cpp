@@ -26,7 +26,7 @@ struct FSizedFontKey
 	bool operator==(const FSizedFontKey& Other) const
 	{
 		return CompositeFont == Other.CompositeFont && Face == Other.Face && Size == Other.Size && Scale == Other.Scale &&
-			   Outline == Other.Outline;
+			Outline == Other.Outline;
 	}
 	friend uint32 GetTypeHash(const FSizedFontKey& Key)
 	{
@@ -64,8 +64,8 @@ const FSlateSizedFont& FSlateFontCache::FImplementation::GetFont(const FSlateFon
 		return *LastFont;
 	}
 
-	const FSizedFontKey Key{FontInfo.CompositeFont.Get(), FontInfo.TypefaceFontName, FontInfo.Size, Scale,
-							FontInfo.OutlineSettings};
+	const FSizedFontKey Key{
+		FontInfo.CompositeFont.Get(), FontInfo.TypefaceFontName, FontInfo.Size, Scale, FontInfo.OutlineSettings};
 	if (const TUniquePtr<FSlateSizedFont>* Known = Fonts.Find(Key))
 	{
 		LastFont = Known->Get();
@@ -82,8 +82,8 @@ const FSlateSizedFont& FSlateFontCache::FImplementation::GetFont(const FSlateFon
 	return *LastFont;
 }
 
-FShapedGlyphSequenceRef FSlateFontCache::FImplementation::Shape(const TCHAR* Text, int32 Length, const FSlateFontInfo& FontInfo,
-																float Scale)
+FShapedGlyphSequenceRef FSlateFontCache::FImplementation::Shape(
+	const TCHAR* Text, int32 Length, const FSlateFontInfo& FontInfo, float Scale)
 {
 	const FSlateSizedFont& Font = GetFont(FontInfo, Scale);
 	if (const FShapedGlyphSequenceRef* Known = Texts.Find(Text, Length, Font.GetId()))
@@ -104,8 +104,7 @@ FSlateFontCache::FSlateFontCache()
 FSlateFontCache::~FSlateFontCache() = default;
 
 FShapedGlyphSequenceRef FSlateFontCache::ShapeBidirectionalText(const TCHAR* InText, const int32 InTextStart,
-																const int32 InTextLen, const FSlateFontInfo& InFontInfo,
-																const float InFontScale) const
+	const int32 InTextLen, const FSlateFontInfo& InFontInfo, const float InFontScale) const
 {
 	return Implementation->Shape(InText + InTextStart, InTextLen, InFontInfo, InFontScale);
 }

@@ -64,7 +64,7 @@ FGlyphImage Crop(const FGlyphImage& Image)
 	for (int32 Y = 0; Y < Cropped.Height; ++Y)
 	{
 		FMemory::Memcpy(Cropped.Pixels.GetData() + SIZE_T(Y) * Cropped.Width, Pixels + SIZE_T(Top + Y) * Image.Width + Left,
-						SIZE_T(Right - Left) * sizeof(uint32));
+			SIZE_T(Right - Left) * sizeof(uint32));
 	}
 	return Cropped;
 }
@@ -118,9 +118,8 @@ FGlyphImage FSlateFontFace::DrawGlyph(uint32 GlyphIndex, int32 SubPosition, int3
 	Image.Height = FMath::Min(FMath::CeilToInt(Extents.y_bearing + Extents.height) + Border - Image.Top, MaxSide);
 
 	Image.Pixels.AddZeroed(Image.Width * Image.Height);
-	cairo_surface_t* Surface =
-		cairo_image_surface_create_for_data(reinterpret_cast<uint8*>(Image.Pixels.GetData()), CAIRO_FORMAT_ARGB32, Image.Width,
-											Image.Height, Image.Width * int32(sizeof(uint32)));
+	cairo_surface_t* Surface = cairo_image_surface_create_for_data(reinterpret_cast<uint8*>(Image.Pixels.GetData()),
+		CAIRO_FORMAT_ARGB32, Image.Width, Image.Height, Image.Width * int32(sizeof(uint32)));
 	cairo_t* Cairo = cairo_create(Surface);
 	cairo_set_scaled_font(Cairo, ScaledFont);
 	cairo_set_antialias(Cairo, CAIRO_ANTIALIAS_BEST);

@@ -24,8 +24,8 @@ FSlateFontMeasure::FSlateFontMeasure(const TSharedRef<FSlateFontCache>& InFontCa
 {
 }
 
-FVector2D FSlateFontMeasure::MeasureLines(const TCHAR* Text, int32 Length, const FSlateFontInfo& InFontInfo,
-										  float FontScale) const
+FVector2D FSlateFontMeasure::MeasureLines(
+	const TCHAR* Text, int32 Length, const FSlateFontInfo& InFontInfo, float FontScale) const
 {
 	float Width = 0.0f;
 	int32 NumLines = 0;
@@ -62,36 +62,34 @@ FVector2D FSlateFontMeasure::Measure(const TCHAR* Text, const FSlateFontInfo& In
 }
 
 FVector2D FSlateFontMeasure::Measure(const FString& Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& InFontInfo,
-									 bool IncludeKerningWithPrecedingChar, float FontScale) const
+	bool IncludeKerningWithPrecedingChar, float FontScale) const
 {
 	const FShapedGlyphSequenceRef Line = FontCache->ShapeBidirectionalText(Text, InFontInfo, FontScale);
 	return FVector2D(RoundUp(Line->GetMeasuredWidth(StartIndex, EndIndex)), Line->GetMaxTextHeight());
 }
 
-int32 FSlateFontMeasure::FindLastWholeCharacterIndexBeforeOffset(const FString& Text, const FSlateFontInfo& InFontInfo,
-																 const int32 HorizontalOffset, float FontScale) const
+int32 FSlateFontMeasure::FindLastWholeCharacterIndexBeforeOffset(
+	const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale) const
 {
 	return FindLastWholeCharacterIndexBeforeOffset(Text, 0, Text.Len(), InFontInfo, HorizontalOffset, false, FontScale);
 }
 
 int32 FSlateFontMeasure::FindLastWholeCharacterIndexBeforeOffset(const FString& Text, int32 StartIndex, int32 EndIndex,
-																 const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset,
-																 bool IncludeKerningWithPrecedingChar, float FontScale) const
+	const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar, float FontScale) const
 {
 	const FShapedGlyphSequenceRef Line = FontCache->ShapeBidirectionalText(Text, InFontInfo, FontScale);
 	const int32 Last = FMath::Min(Line->GetCharacterAtOffset(StartIndex, float(HorizontalOffset)), EndIndex) - 1;
 	return Last < StartIndex ? INDEX_NONE : Last;
 }
 
-int32 FSlateFontMeasure::FindCharacterIndexAtOffset(const FString& Text, const FSlateFontInfo& InFontInfo,
-													const int32 HorizontalOffset, float FontScale) const
+int32 FSlateFontMeasure::FindCharacterIndexAtOffset(
+	const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale) const
 {
 	return FindCharacterIndexAtOffset(Text, 0, Text.Len(), InFontInfo, HorizontalOffset, false, FontScale);
 }
 
 int32 FSlateFontMeasure::FindCharacterIndexAtOffset(const FString& Text, int32 StartIndex, int32 EndIndex,
-													const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset,
-													bool IncludeKerningWithPrecedingChar, float FontScale) const
+	const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar, float FontScale) const
 {
 	const FShapedGlyphSequenceRef Line = FontCache->ShapeBidirectionalText(Text, InFontInfo, FontScale);
 	const int32 Character = Line->GetCharacterAtOffset(StartIndex, float(HorizontalOffset));

@@ -6,8 +6,7 @@
 #include <algorithm>
 
 FShapedGlyphSequence::FShapedGlyphSequence(FString&& InText, TArray<FShapedGlyphEntry>&& InGlyphs,
-										   TArray<TSharedRef<FSlateFontFace>>&& InFaces, TArray<float>&& InOffsets,
-										   const FSlateSizedFont& InFont)
+	TArray<TSharedRef<FSlateFontFace>>&& InFaces, TArray<float>&& InOffsets, const FSlateSizedFont& InFont)
 	: Text(MoveTemp(InText))
 	, Glyphs(MoveTemp(InGlyphs))
 	, Faces(MoveTemp(InFaces))

@@ -35,7 +35,8 @@ double GetPixelSize(const FSlateFontInfo& FontInfo, float Scale)
 	const double Bounded = Size >= 1.0 ? FMath::Min(Size, MaxPixelSize) : 1.0;
 	if (FontInfo.Size <= 0 || Size > MaxPixelSize)
 	{
-		UE_LOG(LogSlateFonts, Warning, TEXT("A font of size %d cannot be drawn; letters of %.0f pixels are used."), FontInfo.Size, Bounded);
+		UE_LOG(LogSlateFonts, Warning, TEXT("A font of size %d cannot be drawn; letters of %.0f pixels are used."), FontInfo.Size,
+			Bounded);
 	}
 	return Bounded;
 }

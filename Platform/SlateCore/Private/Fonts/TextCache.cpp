@@ -38,7 +38,7 @@ FSlateTextCache::FKey::FKey(const TCHAR* InText, int32 InLength, uint32 InFontId
 bool FSlateTextCache::FKey::operator==(const FKey& Other) const
 {
 	return Hash == Other.Hash && FontId == Other.FontId && Length == Other.Length &&
-		   FMemory::Memcmp(Text, Other.Text, SIZE_T(Length) * sizeof(TCHAR)) == 0;
+		FMemory::Memcmp(Text, Other.Text, SIZE_T(Length) * sizeof(TCHAR)) == 0;
 }
 
 FSlateTextCache::FSlateTextCache()

@@ -16,12 +16,23 @@ struct FCharacterRange
 
 /** Characters that stand side by side from left to right and never combine. Common ones go with any script. */
 const FCharacterRange GSimpleRanges[] = {
-	{0x0000, 0x0040, PANGO_SCRIPT_COMMON},	 {0x0041, 0x005A, PANGO_SCRIPT_LATIN},	  {0x005B, 0x0060, PANGO_SCRIPT_COMMON},
-	{0x0061, 0x007A, PANGO_SCRIPT_LATIN},	 {0x007B, 0x00AC, PANGO_SCRIPT_COMMON},	  {0x00AE, 0x00BF, PANGO_SCRIPT_COMMON},
-	{0x00C0, 0x00D6, PANGO_SCRIPT_LATIN},	 {0x00D7, 0x00D7, PANGO_SCRIPT_COMMON},	  {0x00D8, 0x00F6, PANGO_SCRIPT_LATIN},
-	{0x00F7, 0x00F7, PANGO_SCRIPT_COMMON},	 {0x00F8, 0x024F, PANGO_SCRIPT_LATIN},	  {0x0370, 0x03FF, PANGO_SCRIPT_GREEK},
-	{0x0400, 0x0482, PANGO_SCRIPT_CYRILLIC}, {0x048A, 0x052F, PANGO_SCRIPT_CYRILLIC}, {0x2010, 0x2027, PANGO_SCRIPT_COMMON},
-	{0x2030, 0x205E, PANGO_SCRIPT_COMMON},	 {0x20A0, 0x20BF, PANGO_SCRIPT_COMMON},
+	{0x0000, 0x0040, PANGO_SCRIPT_COMMON},
+	{0x0041, 0x005A, PANGO_SCRIPT_LATIN},
+	{0x005B, 0x0060, PANGO_SCRIPT_COMMON},
+	{0x0061, 0x007A, PANGO_SCRIPT_LATIN},
+	{0x007B, 0x00AC, PANGO_SCRIPT_COMMON},
+	{0x00AE, 0x00BF, PANGO_SCRIPT_COMMON},
+	{0x00C0, 0x00D6, PANGO_SCRIPT_LATIN},
+	{0x00D7, 0x00D7, PANGO_SCRIPT_COMMON},
+	{0x00D8, 0x00F6, PANGO_SCRIPT_LATIN},
+	{0x00F7, 0x00F7, PANGO_SCRIPT_COMMON},
+	{0x00F8, 0x024F, PANGO_SCRIPT_LATIN},
+	{0x0370, 0x03FF, PANGO_SCRIPT_GREEK},
+	{0x0400, 0x0482, PANGO_SCRIPT_CYRILLIC},
+	{0x048A, 0x052F, PANGO_SCRIPT_CYRILLIC},
+	{0x2010, 0x2027, PANGO_SCRIPT_COMMON},
+	{0x2030, 0x205E, PANGO_SCRIPT_COMMON},
+	{0x20A0, 0x20BF, PANGO_SCRIPT_COMMON},
 };
 
 /** PANGO_SCRIPT_UNKNOWN for a character that is not simple. */
@@ -94,7 +105,7 @@ FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length,
 		ShapeAnyText(Font);
 	}
 	return MakeShared<FShapedGlyphSequence>(FString(Length, Text), TArray<FShapedGlyphEntry>(Glyphs),
-											TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), Font);
+		TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), Font);
 }
 
 bool FSlateTextShaper::Encode(const TCHAR* Text, int32 Length)

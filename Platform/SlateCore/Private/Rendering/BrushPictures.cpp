@@ -44,8 +44,8 @@ void DrawPart(cairo_t* Cairo, cairo_surface_t* Source, const FThreeParts& X, con
 	}
 
 	// The part by itself, so that its neighbours do not bleed into it where it is stretched.
-	cairo_surface_t* Part = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, FMath::Max(FMath::RoundToInt(FromSize.X), 1),
-													   FMath::Max(FMath::RoundToInt(FromSize.Y), 1));
+	cairo_surface_t* Part = cairo_image_surface_create(
+		CAIRO_FORMAT_ARGB32, FMath::Max(FMath::RoundToInt(FromSize.X), 1), FMath::Max(FMath::RoundToInt(FromSize.Y), 1));
 	cairo_t* PartCairo = cairo_create(Part);
 	cairo_set_source_surface(PartCairo, Source, -From.X, -From.Y);
 	cairo_paint(PartCairo);
@@ -94,8 +94,8 @@ void DrawTiles(cairo_t* Cairo, const ISlateTexture& Texture, const FSlateBrush& 
 	const ESlateBrushTileType::Type Tiling = Brush.GetTiling();
 	const double Width = Tiling == ESlateBrushTileType::Vertical ? Size.X : Brush.GetImageSize().X * double(Scale);
 	const double Height = Tiling == ESlateBrushTileType::Horizontal ? Size.Y : Brush.GetImageSize().Y * double(Scale);
-	const FIntPoint TileSize(FMath::Clamp(FMath::RoundToInt(Width), 1, Size.X),
-							 FMath::Clamp(FMath::RoundToInt(Height), 1, Size.Y));
+	const FIntPoint TileSize(
+		FMath::Clamp(FMath::RoundToInt(Width), 1, Size.X), FMath::Clamp(FMath::RoundToInt(Height), 1, Size.Y));
 	cairo_surface_t* Tile = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, TileSize.X, TileSize.Y);
 	cairo_t* TileCairo = cairo_create(Tile);
 	Texture.Draw(TileCairo, FVector2D(FMath::Max(Width, 1.0), FMath::Max(Height, 1.0)));
@@ -135,7 +135,7 @@ void ApplyTint(FPixelBuffer& Picture, FPixelColor Tint)
 bool FSlateBrushPictures::FKey::operator==(const FKey& Other) const
 {
 	return Resource == Other.Resource && Size == Other.Size && Tint == Other.Tint && Scale == Other.Scale &&
-		   Margin == Other.Margin && ImageSize == Other.ImageSize && DrawAs == Other.DrawAs && Tiling == Other.Tiling;
+		Margin == Other.Margin && ImageSize == Other.ImageSize && DrawAs == Other.DrawAs && Tiling == Other.Tiling;
 }
 
 FSlateBrushPictures::FSlateBrushPictures()
@@ -145,8 +145,8 @@ FSlateBrushPictures::FSlateBrushPictures()
 
 FSlateBrushPictures::~FSlateBrushPictures() = default;
 
-FPixelBuffer& FSlateBrushPictures::Get(const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale,
-									   const FIntRect& Seen, FIntPoint& OutPosition)
+FPixelBuffer& FSlateBrushPictures::Get(
+	const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale, const FIntRect& Seen, FIntPoint& OutPosition)
 {
 	const int64 Bytes = int64(Size.X) * Size.Y * int64(sizeof(uint32));
 	if (Bytes > MaxBytesOfGeneration)
@@ -158,7 +158,7 @@ FPixelBuffer& FSlateBrushPictures::Get(const FSlateBrush& Brush, FIntPoint Size,
 
 	OutPosition = FIntPoint(0, 0);
 	const FKey Key{Brush.GetResourceName(), Size, Tint.Bits, Scale, Brush.GetMargin(), Brush.GetImageSize(), Brush.GetDrawType(),
-				   Brush.GetTiling()};
+		Brush.GetTiling()};
 	if (const TUniquePtr<FPixelBuffer>* Known = Pictures.Find(Key))
 	{
 		return **Known;
@@ -166,8 +166,8 @@ FPixelBuffer& FSlateBrushPictures::Get(const FSlateBrush& Brush, FIntPoint Size,
 	return *Pictures.Add(Key, Draw(Brush, Size, Tint, Scale, FIntRect(FIntPoint(0, 0), Size)), Bytes);
 }
 
-TUniquePtr<FPixelBuffer> FSlateBrushPictures::Draw(const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale,
-												   const FIntRect& Part)
+TUniquePtr<FPixelBuffer> FSlateBrushPictures::Draw(
+	const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale, const FIntRect& Part)
 {
 	TUniquePtr<FPixelBuffer> Picture = MakeUnique<FPixelBuffer>(Part.Size());
 	const ISlateTexture& Texture = Textures.Get(Brush.GetResourceName());

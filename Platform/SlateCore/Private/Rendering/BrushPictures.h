@@ -26,8 +26,8 @@ public:
 	 *                     the part seen is drawn.
 	 * @return       Valid until the next call.
 	 */
-	FPixelBuffer& Get(const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale, const FIntRect& Seen,
-					  FIntPoint& OutPosition);
+	FPixelBuffer& Get(
+		const FSlateBrush& Brush, FIntPoint Size, FPixelColor Tint, float Scale, const FIntRect& Seen, FIntPoint& OutPosition);
 
 	/** Forgets pictures and files. */
 	void Empty();

@@ -1,8 +1,7 @@
 #include "Rendering/DrawElements.h"
 
 FSlateDrawElement& FSlateDrawElement::Add(FSlateWindowElementList& ElementList, EElementType Type, uint32 InLayer,
-										  const FPaintGeometry& PaintGeometry, ESlateDrawEffect InDrawEffects,
-										  const FLinearColor& InTint, int32 Payload)
+	const FPaintGeometry& PaintGeometry, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint, int32 Payload)
 {
 	FSlateDrawElement& Element = ElementList.Elements.AddDefaulted_GetRef();
 	Element.X = float(PaintGeometry.DrawPosition.X);
@@ -30,7 +29,7 @@ bool FSlateDrawElement::IsHidden(const FSlateWindowElementList& ElementList, con
 }
 
 void FSlateDrawElement::MakeBox(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-								const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
+	const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
 	if (!InBrush || InBrush->GetDrawType() == ESlateBrushDrawType::NoDrawType || ElementList.GetCurrentClip().IsEmpty())
 	{
@@ -46,22 +45,20 @@ void FSlateDrawElement::MakeBox(FSlateWindowElementList& ElementList, uint32 InL
 }
 
 void FSlateDrawElement::MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-								 const FString& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects,
-								 const FLinearColor& InTint)
+	const FString& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
 	MakeText(ElementList, InLayer, PaintGeometry, InText, 0, InText.Len(), InFontInfo, InDrawEffects, InTint);
 }
 
 void FSlateDrawElement::MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-								 const FText& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects,
-								 const FLinearColor& InTint)
+	const FText& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
 	MakeText(ElementList, InLayer, PaintGeometry, InText.ToString(), InFontInfo, InDrawEffects, InTint);
 }
 
 void FSlateDrawElement::MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-								 const FString& InText, const int32 StartIndex, const int32 EndIndex,
-								 const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
+	const FString& InText, const int32 StartIndex, const int32 EndIndex, const FSlateFontInfo& InFontInfo,
+	ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
 	const int32 NumCharacters = FMath::Min(EndIndex, InText.Len()) - StartIndex;
 	if (NumCharacters <= 0 || IsHidden(ElementList, InTint))
@@ -78,8 +75,7 @@ void FSlateDrawElement::MakeText(FSlateWindowElementList& ElementList, uint32 In
 }
 
 void FSlateDrawElement::MakeShapedText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-									   const FShapedGlyphSequenceRef& InShapedGlyphSequence, ESlateDrawEffect InDrawEffects,
-									   const FLinearColor& InTint)
+	const FShapedGlyphSequenceRef& InShapedGlyphSequence, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
 	if (InShapedGlyphSequence->GetGlyphs().Num() == 0 || IsHidden(ElementList, InTint))
 	{
@@ -90,8 +86,7 @@ void FSlateDrawElement::MakeShapedText(FSlateWindowElementList& ElementList, uin
 }
 
 void FSlateDrawElement::MakeLines(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-								  const TArray<FVector2D>& Points, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint,
-								  bool bAntialias, float Thickness)
+	const TArray<FVector2D>& Points, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint, bool bAntialias, float Thickness)
 {
 	if (Points.Num() < 2 || IsHidden(ElementList, InTint))
 	{

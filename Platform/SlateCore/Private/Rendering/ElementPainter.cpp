@@ -34,7 +34,7 @@ FIntRect ToPixels(const FSlateRect& Rect)
 FIntRect GetBox(const FSlateDrawElement& Element)
 {
 	return ToPixels(FSlateRect(Element.GetX(), Element.GetY(), Element.GetX() + Element.GetWidth() * Element.GetScale(),
-							   Element.GetY() + Element.GetHeight() * Element.GetScale()));
+		Element.GetY() + Element.GetHeight() * Element.GetScale()));
 }
 
 FPixelColor GetColor(const FSlateDrawElement& Element, const FLinearColor& Color)
@@ -54,8 +54,8 @@ cairo_matrix_t GetMatrix(const FSlateWindowElementList& List, const FSlateDrawEl
 	Transform.GetMatrix().GetMatrix(M00, M01, M10, M11);
 	const double Units = Element.GetScale() > 0.0f ? 1.0 / double(Element.GetScale()) : 1.0;
 	cairo_matrix_t Matrix;
-	cairo_matrix_init(&Matrix, M00 * Units, M01 * Units, M10 * Units, M11 * Units, Transform.GetTranslation().X,
-					  Transform.GetTranslation().Y);
+	cairo_matrix_init(
+		&Matrix, M00 * Units, M01 * Units, M10 * Units, M11 * Units, Transform.GetTranslation().X, Transform.GetTranslation().Y);
 	return Matrix;
 }
 
@@ -96,14 +96,14 @@ FIntRect GetBoundsOfLines(const FSlateWindowElementList& List, const FSlateDrawE
 bool IsPlainFill(const FSlateBrush& Brush)
 {
 	return Brush.GetDrawType() != ESlateBrushDrawType::RoundedBox && Brush.GetDrawType() != ESlateBrushDrawType::Border &&
-		   Brush.GetResourceName().IsNone();
+		Brush.GetResourceName().IsNone();
 }
 
 void FillFrame(FPixelBuffer& Target, const FIntRect& Clip, const FIntRect& Box, const FMargin& Sides, uint32 Color)
 {
-	const FIntRect Hole(
-		FMath::Min(Box.Min.X + ToPixel(Sides.Left), Box.Max.X), FMath::Min(Box.Min.Y + ToPixel(Sides.Top), Box.Max.Y),
-		FMath::Max(Box.Max.X - ToPixel(Sides.Right), Box.Min.X), FMath::Max(Box.Max.Y - ToPixel(Sides.Bottom), Box.Min.Y));
+	const FIntRect Hole(FMath::Min(Box.Min.X + ToPixel(Sides.Left), Box.Max.X),
+		FMath::Min(Box.Min.Y + ToPixel(Sides.Top), Box.Max.Y), FMath::Max(Box.Max.X - ToPixel(Sides.Right), Box.Min.X),
+		FMath::Max(Box.Max.Y - ToPixel(Sides.Bottom), Box.Min.Y));
 	PixelBlend::FillRect(Target, Clip, FIntRect(Box.Min.X, Box.Min.Y, Box.Max.X, Hole.Min.Y), Color);
 	PixelBlend::FillRect(Target, Clip, FIntRect(Box.Min.X, Hole.Min.Y, Hole.Min.X, Hole.Max.Y), Color);
 	PixelBlend::FillRect(Target, Clip, FIntRect(Hole.Max.X, Hole.Min.Y, Box.Max.X, Hole.Max.Y), Color);
@@ -141,8 +141,8 @@ FSlateElementPainter::FSlateElementPainter(const TSharedRef<FSlateFontCache>& In
 {
 }
 
-void FSlateElementPainter::Paint(const FSlateWindowElementList& List, FPixelBuffer& Target, const TArray<FIntRect>& Damage,
-								 FSlateRenderStatistics& Statistics)
+void FSlateElementPainter::Paint(
+	const FSlateWindowElementList& List, FPixelBuffer& Target, const TArray<FIntRect>& Damage, FSlateRenderStatistics& Statistics)
 {
 	FIntRect Concerned = Damage[0];
 	for (const FIntRect& Part : Damage)
@@ -190,8 +190,8 @@ void FSlateElementPainter::Place(const FSlateWindowElementList& List, const FInt
 	}
 }
 
-bool FSlateElementPainter::PlaceElement(const FSlateWindowElementList& List, const FSlateDrawElement& Element,
-										FPlacedElement& Out)
+bool FSlateElementPainter::PlaceElement(
+	const FSlateWindowElementList& List, const FSlateDrawElement& Element, FPlacedElement& Out)
 {
 	Out.Element = &Element;
 	Out.Color = GetColor(Element, Element.GetTint());
@@ -203,7 +203,7 @@ bool FSlateElementPainter::PlaceElement(const FSlateWindowElementList& List, con
 	{
 		case FSlateDrawElement::EElementType::Box:
 			Out.bIsOpaqueFill = Out.Color.GetAlpha() == 255 && Element.GetRenderTransform() == INDEX_NONE &&
-								IsPlainFill(List.GetBrushes()[Element.GetPayload()]);
+				IsPlainFill(List.GetBrushes()[Element.GetPayload()]);
 			break;
 		case FSlateDrawElement::EElementType::Text:
 		case FSlateDrawElement::EElementType::ShapedText:
@@ -243,7 +243,7 @@ FShapedGlyphSequencePtr FSlateElementPainter::GetText(const FSlateWindowElementL
 	}
 	const FSlateTextPayload& Text = List.GetTexts()[Element.GetPayload()];
 	return FontCache->ShapeBidirectionalText(List.GetCharacters().GetData(), Text.FirstCharacter, Text.NumCharacters,
-											 List.GetFonts()[Text.FontIndex], Element.GetScale());
+		List.GetFonts()[Text.FontIndex], Element.GetScale());
 }
 
 void FSlateElementPainter::PaintPart(const FSlateWindowElementList& List, FPixelBuffer& Target, const FIntRect& Part)
@@ -292,7 +292,7 @@ void FSlateElementPainter::PaintPart(const FSlateWindowElementList& List, FPixel
 }
 
 void FSlateElementPainter::PaintElement(const FSlateWindowElementList& List, const FPlacedElement& Element, FPixelBuffer& Target,
-										const FIntRect& Box, const FIntRect& Clip)
+	const FIntRect& Box, const FIntRect& Clip)
 {
 	if (Element.Text)
 	{
@@ -308,8 +308,8 @@ void FSlateElementPainter::PaintElement(const FSlateWindowElementList& List, con
 	PaintBox(Brush, Element, Target, Box, Clip);
 }
 
-void FSlateElementPainter::PaintTransformed(const FSlateWindowElementList& List, const FPlacedElement& Element,
-											FPixelBuffer& Target, const FIntRect& Clip)
+void FSlateElementPainter::PaintTransformed(
+	const FSlateWindowElementList& List, const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Clip)
 {
 	// Painted straight first, then laid down turned. Larger than a screen nothing can be seen whole.
 	constexpr int32 MaxSide = 4096;
@@ -324,8 +324,8 @@ void FSlateElementPainter::PaintTransformed(const FSlateWindowElementList& List,
 	cairo_paint(Cairo);
 }
 
-void FSlateElementPainter::PaintBox(const FSlateBrush& Brush, const FPlacedElement& Element, FPixelBuffer& Target,
-									const FIntRect& Box, const FIntRect& Clip)
+void FSlateElementPainter::PaintBox(
+	const FSlateBrush& Brush, const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip)
 {
 	if (IsPlainFill(Brush))
 	{
@@ -339,7 +339,7 @@ void FSlateElementPainter::PaintBox(const FSlateBrush& Brush, const FPlacedEleme
 		const FMargin& Margin = Brush.GetMargin();
 		const FVector2D Image = Brush.GetImageSize() * double(Scale);
 		const FMargin Sides(Margin.Left * float(Image.X), Margin.Top * float(Image.Y), Margin.Right * float(Image.X),
-							Margin.Bottom * float(Image.Y));
+			Margin.Bottom * float(Image.Y));
 		FillFrame(Target, Clip, Box, Sides, Element.Color.Premultiplied());
 		return;
 	}
@@ -354,8 +354,8 @@ void FSlateElementPainter::PaintBox(const FSlateBrush& Brush, const FPlacedEleme
 	}
 }
 
-void FSlateElementPainter::PaintRoundedBox(const FSlateBrush& Brush, const FPlacedElement& Element, FPixelBuffer& Target,
-										   const FIntRect& Box, const FIntRect& Clip)
+void FSlateElementPainter::PaintRoundedBox(
+	const FSlateBrush& Brush, const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip)
 {
 	if (Box.IsEmpty())
 	{
@@ -386,8 +386,8 @@ void FSlateElementPainter::PaintRoundedBox(const FSlateBrush& Brush, const FPlac
 	PixelBlend::DrawNineParts(Target, Clip, Box, Picture, Middle);
 }
 
-void FSlateElementPainter::PaintText(const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Box,
-									 const FIntRect& Clip)
+void FSlateElementPainter::PaintText(
+	const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip)
 {
 	const FShapedGlyphSequence& Text = *Element.Text;
 	const int32 Baseline = Box.Min.Y + Text.GetMaxTextHeight() + Text.GetTextBaseline();
@@ -413,7 +413,7 @@ void FSlateElementPainter::PaintText(const FPlacedElement& Element, FPixelBuffer
 			{
 				FSlateFontFace& Face = *Text.GetFaces()[Glyph.FaceIndex];
 				PixelBlend::DrawGlyph(Target, Clip, Position,
-									  Face.GetGlyph(Glyph.GlyphIndex, Quarters & (NumSubPositions - 1), OutlineWidth), Color);
+					Face.GetGlyph(Glyph.GlyphIndex, Quarters & (NumSubPositions - 1), OutlineWidth), Color);
 			}
 			Pen += Glyph.XAdvance;
 		}
@@ -426,8 +426,8 @@ void FSlateElementPainter::PaintText(const FPlacedElement& Element, FPixelBuffer
 	PaintGlyphs(0, Element.Color);
 }
 
-void FSlateElementPainter::PaintLines(const FSlateWindowElementList& List, const FPlacedElement& Element, FPixelBuffer& Target,
-									  const FIntRect& Clip)
+void FSlateElementPainter::PaintLines(
+	const FSlateWindowElementList& List, const FPlacedElement& Element, FPixelBuffer& Target, const FIntRect& Clip)
 {
 	const FSlateDrawElement& Draw = *Element.Element;
 	const FSlateLinesPayload& Line = List.GetLines()[Draw.GetPayload()];
@@ -443,7 +443,7 @@ void FSlateElementPainter::PaintLines(const FSlateWindowElementList& List, const
 	}
 	const uint32 Bits = Element.Color.Bits;
 	cairo_set_source_rgba(Cairo, double((Bits >> 16) & 255) / 255.0, double((Bits >> 8) & 255) / 255.0,
-						  double(Bits & 255) / 255.0, double(Bits >> 24) / 255.0);
+		double(Bits & 255) / 255.0, double(Bits >> 24) / 255.0);
 	cairo_set_antialias(Cairo, Line.bAntialias ? CAIRO_ANTIALIAS_GRAY : CAIRO_ANTIALIAS_NONE);
 	cairo_set_line_width(Cairo, double(Line.Thickness) * double(Draw.GetScale()));
 	for (int32 Index = Line.FirstPoint; Index < Line.FirstPoint + Line.NumPoints; ++Index)

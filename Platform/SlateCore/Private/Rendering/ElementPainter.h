@@ -20,7 +20,7 @@ public:
 
 	/** Paints the damaged parts, at least one, anew, over opaque black, and adds to the statistics. */
 	void Paint(const FSlateWindowElementList& List, FPixelBuffer& Target, const TArray<FIntRect>& Damage,
-			   FSlateRenderStatistics& Statistics);
+		FSlateRenderStatistics& Statistics);
 
 	void ReloadTextureResources() { BrushPictures.Empty(); }
 
@@ -48,16 +48,16 @@ private:
 
 	/** Paints an element whose box has been moved to Box. */
 	void PaintElement(const FSlateWindowElementList& List, const FPlacedElement& Placed, FPixelBuffer& Target,
-					  const FIntRect& Box, const FIntRect& Clip);
-	void PaintTransformed(const FSlateWindowElementList& List, const FPlacedElement& Placed, FPixelBuffer& Target,
-						  const FIntRect& Clip);
-	void PaintBox(const FSlateBrush& Brush, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Box,
-				  const FIntRect& Clip);
-	void PaintRoundedBox(const FSlateBrush& Brush, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Box,
-						 const FIntRect& Clip);
+		const FIntRect& Box, const FIntRect& Clip);
+	void PaintTransformed(
+		const FSlateWindowElementList& List, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Clip);
+	void PaintBox(
+		const FSlateBrush& Brush, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip);
+	void PaintRoundedBox(
+		const FSlateBrush& Brush, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip);
 	void PaintText(const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Box, const FIntRect& Clip);
-	void PaintLines(const FSlateWindowElementList& List, const FPlacedElement& Placed, FPixelBuffer& Target,
-					const FIntRect& Clip);
+	void PaintLines(
+		const FSlateWindowElementList& List, const FPlacedElement& Placed, FPixelBuffer& Target, const FIntRect& Clip);
 
 	TSharedRef<FSlateFontCache> FontCache;
 	FSlateBrushPictures BrushPictures;

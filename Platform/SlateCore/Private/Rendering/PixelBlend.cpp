@@ -24,7 +24,7 @@ FORCEINLINE FFourPixels Repeat(uint32 Pixel)
 FORCEINLINE FFourPixels MultiplyAdd(FFourPixels A, FFourPixels B, FFourPixels C, FFourPixels D)
 {
 	FWideFourPixels Sum = __builtin_convertvector(A, FWideFourPixels) * __builtin_convertvector(B, FWideFourPixels) +
-						  __builtin_convertvector(C, FWideFourPixels) * __builtin_convertvector(D, FWideFourPixels) + 128;
+		__builtin_convertvector(C, FWideFourPixels) * __builtin_convertvector(D, FWideFourPixels) + 128;
 	Sum = (Sum + (Sum >> 8)) >> 8;
 	return __builtin_convertvector(Sum, FFourPixels);
 }
@@ -127,8 +127,8 @@ void PixelBlend::DrawImage(FPixelBuffer& Target, const FIntRect& Clip, FIntPoint
 	}
 }
 
-void PixelBlend::DrawNineParts(FPixelBuffer& Target, const FIntRect& Clip, const FIntRect& Rect, const FPixelBuffer& Image,
-							   FIntPoint Middle)
+void PixelBlend::DrawNineParts(
+	FPixelBuffer& Target, const FIntRect& Clip, const FIntRect& Rect, const FPixelBuffer& Image, FIntPoint Middle)
 {
 	FIntRect Part = Rect;
 	Part.Clip(Clip);
@@ -168,8 +168,8 @@ void PixelBlend::DrawNineParts(FPixelBuffer& Target, const FIntRect& Clip, const
 	}
 }
 
-void PixelBlend::DrawGlyph(FPixelBuffer& Target, const FIntRect& Clip, FIntPoint Position, const FGlyphImage& Glyph,
-						   FPixelColor Color)
+void PixelBlend::DrawGlyph(
+	FPixelBuffer& Target, const FIntRect& Clip, FIntPoint Position, const FGlyphImage& Glyph, FPixelColor Color)
 {
 	const FIntPoint TopLeft = Position + FIntPoint(Glyph.Left, Glyph.Top);
 	FIntRect Part(TopLeft, TopLeft + FIntPoint(Glyph.Width, Glyph.Height));
@@ -192,7 +192,7 @@ void PixelBlend::DrawGlyph(FPixelBuffer& Target, const FIntRect& Clip, FIntPoint
 		if (Glyph.bIsColor)
 		{
 			BlendRow(Row, Source, Part.Width(),
-					 [Alpha](FFourPixels Above, FFourPixels Below) { return Over(Multiply(Above, Alpha), Below); });
+				[Alpha](FFourPixels Above, FFourPixels Below) { return Over(Multiply(Above, Alpha), Below); });
 		}
 		else if (Color.GetAlpha() == 255)
 		{
@@ -201,7 +201,7 @@ void PixelBlend::DrawGlyph(FPixelBuffer& Target, const FIntRect& Clip, FIntPoint
 		else
 		{
 			BlendRow(Row, Source, Part.Width(),
-					 [Alpha, BlendMask](FFourPixels Mask, FFourPixels Below) { return BlendMask(Multiply(Mask, Alpha), Below); });
+				[Alpha, BlendMask](FFourPixels Mask, FFourPixels Below) { return BlendMask(Multiply(Mask, Alpha), Below); });
 		}
 	}
 }

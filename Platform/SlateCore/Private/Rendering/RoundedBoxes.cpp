@@ -97,7 +97,7 @@ TUniquePtr<FPixelBuffer> Draw(const FRoundedBoxShape& Shape)
 bool FRoundedBoxShape::operator==(const FRoundedBoxShape& Other) const
 {
 	return Size == Other.Size && FMemory::Memcmp(Radii, Other.Radii, sizeof(Radii)) == 0 && OutlineWidth == Other.OutlineWidth &&
-		   Fill.Bits == Other.Fill.Bits && Outline.Bits == Other.Outline.Bits;
+		Fill.Bits == Other.Fill.Bits && Outline.Bits == Other.Outline.Bits;
 }
 
 uint32 GetTypeHash(const FRoundedBoxShape& Shape)

@@ -22,7 +22,7 @@ TArray<FIntRect> CutAtWindow(const TArray<FSlateRect>& Damage, const FIntRect& W
 	{
 		const FSlateRect Common = Rect.IntersectionWith(FSlateRect(0.0f, 0.0f, float(Window.Max.X), float(Window.Max.Y)));
 		const FIntRect Part(FMath::FloorToInt(Common.Left), FMath::FloorToInt(Common.Top), FMath::CeilToInt(Common.Right),
-							FMath::CeilToInt(Common.Bottom));
+			FMath::CeilToInt(Common.Bottom));
 		if (!Part.IsEmpty())
 		{
 			Parts.Add(Part);
@@ -80,7 +80,7 @@ void FSlateCairoRenderer::DrawWindows(FSlateDrawBuffer& InWindowDrawBuffer)
 		if (Viewport->NativeWindow)
 		{
 			Viewport->NativeWindow->PresentPixels(reinterpret_cast<const uint8*>(Pixels.GetRow(0)), Pixels.GetSize().X,
-												  Pixels.GetSize().Y, Pixels.GetStride(), Damage);
+				Pixels.GetSize().Y, Pixels.GetStride(), Damage);
 		}
 	}
 }

@@ -4,7 +4,8 @@ namespace
 {
 FSlateRect Union(const FSlateRect& A, const FSlateRect& B)
 {
-	return FSlateRect(FMath::Min(A.Left, B.Left), FMath::Min(A.Top, B.Top), FMath::Max(A.Right, B.Right), FMath::Max(A.Bottom, B.Bottom));
+	return FSlateRect(
+		FMath::Min(A.Left, B.Left), FMath::Min(A.Top, B.Top), FMath::Max(A.Right, B.Right), FMath::Max(A.Bottom, B.Bottom));
 }
 
 float AreaOf(const FSlateRect& Rect)

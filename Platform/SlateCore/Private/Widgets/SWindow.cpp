@@ -25,8 +25,8 @@ FVector2D LimitSize(const FVector2D& Size)
 	const FVector2D Limited(LimitSide(Size.X), LimitSide(Size.Y));
 	if (Size.X > MaxSide || Size.Y > MaxSide)
 	{
-		UE_LOG(LogSlateWindow, Warning, TEXT("A window of %.0f x %.0f is too large; %.0f x %.0f is used."), Size.X, Size.Y, Limited.X,
-			Limited.Y);
+		UE_LOG(LogSlateWindow, Warning, TEXT("A window of %.0f x %.0f is too large; %.0f x %.0f is used."), Size.X, Size.Y,
+			Limited.X, Limited.Y);
 	}
 	return Limited;
 }

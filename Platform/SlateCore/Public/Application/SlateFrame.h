@@ -15,8 +15,8 @@ SLATECORE_API void UpdateBoundAttributes();
  *
  * @param Around  Is given each widget with the calls that are due, and makes them.
  */
-SLATECORE_API void CallShownWidgets(
-	double CurrentTime, float DeltaTime, TFunctionRef<void(const TSharedRef<SWidget>& Widget, TFunctionRef<void()> Calls)> Around);
+SLATECORE_API void CallShownWidgets(double CurrentTime, float DeltaTime,
+	TFunctionRef<void(const TSharedRef<SWidget>& Widget, TFunctionRef<void()> Calls)> Around);
 
 /** The time at which the next active timer of a shown widget is due; beyond all time when there is none. */
 SLATECORE_API double GetNextCallTime();

@@ -18,12 +18,12 @@ struct FSlateRoundedBoxBrush : public FSlateBrush
 	{
 	}
 	FSlateRoundedBoxBrush(const FSlateColor& InColor, float InRadius, const FSlateColor& InOutlineColor, float InOutlineWidth,
-						  const FVector2D& InImageSize = FVector2D(0.0, 0.0))
+		const FVector2D& InImageSize = FVector2D(0.0, 0.0))
 		: FSlateRoundedBoxBrush(InColor, FSlateBrushOutlineSettings(InRadius, InOutlineColor, InOutlineWidth), InImageSize)
 	{
 	}
 	FSlateRoundedBoxBrush(const FSlateColor& InColor, FVector4 InRadius, const FSlateColor& InOutlineColor, float InOutlineWidth,
-						  const FVector2D& InImageSize = FVector2D(0.0, 0.0))
+		const FVector2D& InImageSize = FVector2D(0.0, 0.0))
 		: FSlateRoundedBoxBrush(InColor, FSlateBrushOutlineSettings(InRadius, InOutlineColor, InOutlineWidth), InImageSize)
 	{
 	}
@@ -31,7 +31,7 @@ struct FSlateRoundedBoxBrush : public FSlateBrush
 private:
 	FSlateRoundedBoxBrush(const FSlateColor& InColor, const FSlateBrushOutlineSettings& InOutline, const FVector2D& InImageSize)
 		: FSlateBrush(ESlateBrushDrawType::RoundedBox, NAME_None, FMargin(0.0f), ESlateBrushTileType::NoTile,
-					  ESlateBrushImageType::NoImage, InImageSize, InColor)
+			  ESlateBrushImageType::NoImage, InImageSize, InColor)
 	{
 		OutlineSettings = InOutline;
 	}

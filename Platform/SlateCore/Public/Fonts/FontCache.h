@@ -24,7 +24,7 @@ class SLATECORE_API FShapedGlyphSequence
 {
 public:
 	FShapedGlyphSequence(FString&& InText, TArray<FShapedGlyphEntry>&& InGlyphs, TArray<TSharedRef<FSlateFontFace>>&& InFaces,
-						 TArray<float>&& InOffsets, const FSlateSizedFont& InFont);
+		TArray<float>&& InOffsets, const FSlateSizedFont& InFont);
 	~FShapedGlyphSequence();
 
 	const FString& GetText() const { return Text; }
@@ -78,9 +78,9 @@ public:
 
 	/** Text in reading order of its first strong character, with all its scripts and fallback fonts. */
 	FShapedGlyphSequenceRef ShapeBidirectionalText(const TCHAR* InText, const int32 InTextStart, const int32 InTextLen,
-												   const FSlateFontInfo& InFontInfo, const float InFontScale) const;
-	FShapedGlyphSequenceRef ShapeBidirectionalText(const FString& InText, const FSlateFontInfo& InFontInfo,
-												   const float InFontScale) const
+		const FSlateFontInfo& InFontInfo, const float InFontScale) const;
+	FShapedGlyphSequenceRef ShapeBidirectionalText(
+		const FString& InText, const FSlateFontInfo& InFontInfo, const float InFontScale) const
 	{
 		return ShapeBidirectionalText(*InText, 0, InText.Len(), InFontInfo, InFontScale);
 	}

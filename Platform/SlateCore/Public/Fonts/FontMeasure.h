@@ -18,21 +18,20 @@ public:
 
 	/** Size of the characters [StartIndex, EndIndex) of a line, as they stand in it. */
 	FVector2D Measure(const FString& Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& InFontInfo,
-					  bool IncludeKerningWithPrecedingChar = true, float FontScale = 1.0f) const;
+		bool IncludeKerningWithPrecedingChar = true, float FontScale = 1.0f) const;
 
 	/** How many leading characters of a line lie whole within HorizontalOffset, less one; INDEX_NONE when none does. */
-	int32 FindLastWholeCharacterIndexBeforeOffset(const FString& Text, const FSlateFontInfo& InFontInfo,
-												  const int32 HorizontalOffset, float FontScale = 1.0f) const;
+	int32 FindLastWholeCharacterIndexBeforeOffset(
+		const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale = 1.0f) const;
 	int32 FindLastWholeCharacterIndexBeforeOffset(const FString& Text, int32 StartIndex, int32 EndIndex,
-												  const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset,
-												  bool IncludeKerningWithPrecedingChar = true, float FontScale = 1.0f) const;
+		const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar = true,
+		float FontScale = 1.0f) const;
 
 	/** The place between two characters that is nearest to HorizontalOffset, as the index of the character behind it. */
-	int32 FindCharacterIndexAtOffset(const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset,
-									 float FontScale = 1.0f) const;
+	int32 FindCharacterIndexAtOffset(
+		const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale = 1.0f) const;
 	int32 FindCharacterIndexAtOffset(const FString& Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& InFontInfo,
-									 const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar = true,
-									 float FontScale = 1.0f) const;
+		const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar = true, float FontScale = 1.0f) const;
 
 	/** Height of a line. */
 	uint16 GetMaxCharacterHeight(const FSlateFontInfo& InFontInfo, float FontScale = 1.0f) const;

@@ -32,8 +32,7 @@ struct SLATECORE_API FSlateFontInfo
 
 	/** @param InTypefaceFontName  A face of the composite font; an unknown one gives the first. */
 	FSlateFontInfo(TSharedPtr<const FCompositeFont> InCompositeFont, const int32 InSize,
-				   const FName& InTypefaceFontName = NAME_None,
-				   const FFontOutlineSettings& InOutlineSettings = FFontOutlineSettings())
+		const FName& InTypefaceFontName = NAME_None, const FFontOutlineSettings& InOutlineSettings = FFontOutlineSettings())
 		: CompositeFont(MoveTemp(InCompositeFont))
 		, TypefaceFontName(InTypefaceFontName)
 		, Size(InSize)
@@ -47,7 +46,7 @@ struct SLATECORE_API FSlateFontInfo
 	bool IsIdenticalTo(const FSlateFontInfo& Other) const
 	{
 		return CompositeFont == Other.CompositeFont && TypefaceFontName == Other.TypefaceFontName && Size == Other.Size &&
-			   OutlineSettings == Other.OutlineSettings;
+			OutlineSettings == Other.OutlineSettings;
 	}
 	bool operator==(const FSlateFontInfo& Other) const { return IsIdenticalTo(Other); }
 	bool operator!=(const FSlateFontInfo& Other) const { return !IsIdenticalTo(Other); }

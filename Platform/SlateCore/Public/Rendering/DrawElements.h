@@ -31,30 +31,26 @@ public:
 
 	/** A brush over the whole geometry. The brush is read now and need not live on. */
 	static void MakeBox(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-						const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-						const FLinearColor& InTint = FLinearColor::White);
+		const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White);
 
 	/** One line of text from the top left of the geometry; it is not cut at the geometry's sides. */
 	static void MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-						 const FString& InText, const FSlateFontInfo& InFontInfo,
-						 ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-						 const FLinearColor& InTint = FLinearColor::White);
+		const FString& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White);
 	static void MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-						 const FText& InText, const FSlateFontInfo& InFontInfo,
-						 ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-						 const FLinearColor& InTint = FLinearColor::White);
+		const FText& InText, const FSlateFontInfo& InFontInfo, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White);
 
 	/** The characters [StartIndex, EndIndex) of a text. */
 	static void MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-						 const FString& InText, const int32 StartIndex, const int32 EndIndex, const FSlateFontInfo& InFontInfo,
-						 ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-						 const FLinearColor& InTint = FLinearColor::White);
+		const FString& InText, const int32 StartIndex, const int32 EndIndex, const FSlateFontInfo& InFontInfo,
+		ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None, const FLinearColor& InTint = FLinearColor::White);
 
 	/** A text that was shaped at the scale of the geometry. */
 	static void MakeShapedText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-							   const FShapedGlyphSequenceRef& InShapedGlyphSequence,
-							   ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-							   const FLinearColor& InTint = FLinearColor::White);
+		const FShapedGlyphSequenceRef& InShapedGlyphSequence, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White);
 
 	/**
 	 * A line through points.
@@ -63,8 +59,8 @@ public:
 	 * @param Thickness  Slate units.
 	 */
 	static void MakeLines(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-						  const TArray<FVector2D>& Points, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
-						  const FLinearColor& InTint = FLinearColor::White, bool bAntialias = true, float Thickness = 1.0f);
+		const TArray<FVector2D>& Points, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White, bool bAntialias = true, float Thickness = 1.0f);
 
 	EElementType GetElementType() const { return Type; }
 	uint32 GetLayer() const { return Layer; }
@@ -88,8 +84,7 @@ public:
 private:
 	static bool IsHidden(const FSlateWindowElementList& ElementList, const FLinearColor& InTint);
 	static FSlateDrawElement& Add(FSlateWindowElementList& ElementList, EElementType Type, uint32 InLayer,
-								  const FPaintGeometry& PaintGeometry, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint,
-								  int32 Payload);
+		const FPaintGeometry& PaintGeometry, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint, int32 Payload);
 
 	float X;
 	float Y;

@@ -28,7 +28,10 @@ enum class ECheckBoxState : uint8
 #define SLATE_STYLE_TYPE(Type) \
 	using StyleType = Type; \
 	static const FName TypeName; \
-	virtual const FName GetTypeName() const override { return TypeName; } \
+	virtual const FName GetTypeName() const override \
+	{ \
+		return TypeName; \
+	} \
 	static const Type& GetDefault();
 
 struct SLATECORE_API FTextBlockStyle : public FSlateWidgetStyle

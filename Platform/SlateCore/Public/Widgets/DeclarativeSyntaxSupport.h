@@ -99,7 +99,10 @@ public: \
 /** One child that is given by name. */
 #define SLATE_NAMED_SLOT(DeclarationType, SlotName) \
 	TSharedRef<SWidget> _##SlotName = SNullWidget::NullWidget; \
-	TNamedSlotArguments<DeclarationType> SlotName() { return TNamedSlotArguments<DeclarationType>(*this, _##SlotName); }
+	TNamedSlotArguments<DeclarationType> SlotName() \
+	{ \
+		return TNamedSlotArguments<DeclarationType>(*this, _##SlotName); \
+	}
 
 /** The child that follows in brackets. */
 #define SLATE_DEFAULT_SLOT(DeclarationType, SlotName) \
@@ -129,7 +132,11 @@ template <typename ArgumentsType>
 class TNamedSlotArguments
 {
 public:
-	TNamedSlotArguments(ArgumentsType& InArguments, TSharedRef<SWidget>& InChild) : Arguments(InArguments), Child(InChild) {}
+	TNamedSlotArguments(ArgumentsType& InArguments, TSharedRef<SWidget>& InChild)
+		: Arguments(InArguments)
+		, Child(InChild)
+	{
+	}
 
 	ArgumentsType& operator[](const TSharedRef<SWidget>& InChild)
 	{
@@ -145,7 +152,10 @@ private:
 /** The text of an SNew argument, as the name of the widget's type: runs of blanks become one. */
 struct SLATECORE_API FSlateTypeText
 {
-	explicit FSlateTypeText(const ANSICHAR* InText) : Text(InText) {}
+	explicit FSlateTypeText(const ANSICHAR* InText)
+		: Text(InText)
+	{
+	}
 
 	FName ToName() const;
 

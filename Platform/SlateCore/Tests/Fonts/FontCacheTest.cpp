@@ -101,7 +101,8 @@ TEST(TextShaping, MissingCharactersComeFromOtherFonts)
 TEST(TextShaping, ChineseAndJapaneseHaveTheirCharacters)
 {
 	const FSlateFontCache Cache;
-	for (const FShapedGlyphEntry& Glyph : Cache.ShapeBidirectionalText(TEXT("\u786E\u5B9A \u3053\u3093"), Font, 1.0f)->GetGlyphs())
+	for (const FShapedGlyphEntry& Glyph :
+		Cache.ShapeBidirectionalText(TEXT("\u786E\u5B9A \u3053\u3093"), Font, 1.0f)->GetGlyphs())
 	{
 		EXPECT_FALSE(Glyph.bIsMissing);
 	}

@@ -72,8 +72,8 @@ TEST_F(FontMeasure, FacesDiffer)
 {
 	const double Regular = Width(TEXT("Hamburgefonts"), MakeFont(20));
 	EXPECT_GT(Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Bold"))), Regular);
-	EXPECT_GT(Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Black"))),
-			  Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Bold"))));
+	EXPECT_GT(
+		Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Black"))), Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Bold"))));
 	EXPECT_NE(Width(TEXT("Hamburgefonts"), MakeFont(20, TEXT("Light"))), Regular);
 }
 
@@ -106,10 +106,11 @@ TEST_F(FontMeasure, ASizeOutOfReasonDrawsOneWarning)
 	Measure->Measure(TEXT("b"), Huge);
 	Measure->Measure(TEXT("a"), Nothing);
 
-	EXPECT_EQ(Log.Warnings(), TArray<FString>({
-		TEXT("A font of size 123456 cannot be drawn; letters of 1024 pixels are used."),
-		TEXT("A font of size -3 cannot be drawn; letters of 1 pixels are used."),
-	}));
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({
+			TEXT("A font of size 123456 cannot be drawn; letters of 1024 pixels are used."),
+			TEXT("A font of size -3 cannot be drawn; letters of 1 pixels are used."),
+		}));
 }
 
 // Engine fact: a size of zero or less must not crash.
@@ -127,8 +128,8 @@ TEST_F(FontMeasure, PartsOfATextAddUpToTheWhole)
 	const FShapedGlyphSequenceRef Shaped = Cache->ShapeBidirectionalText(Text, MakeFont(12), 1.0f);
 	for (int32 Split = 0; Split <= Text.Len(); ++Split)
 	{
-		EXPECT_FLOAT_EQ(Shaped->GetMeasuredWidth(0, Split) + Shaped->GetMeasuredWidth(Split, Text.Len()),
-						Shaped->GetMeasuredWidth());
+		EXPECT_FLOAT_EQ(
+			Shaped->GetMeasuredWidth(0, Split) + Shaped->GetMeasuredWidth(Split, Text.Len()), Shaped->GetMeasuredWidth());
 	}
 	EXPECT_EQ(Shaped->GetMeasuredWidth(-5, 100), Shaped->GetMeasuredWidth());
 	EXPECT_EQ(Shaped->GetMeasuredWidth(9, 3), 0.0f);

@@ -28,7 +28,7 @@ FString WriteFramePicture()
 }
 
 void PaintBrush(FRenderCanvas& Canvas, const FSlateBrush& Brush, const FPaintGeometry& Geometry,
-				const FLinearColor& Tint = FLinearColor::White, ESlateDrawEffect Effects = ESlateDrawEffect::None)
+	const FLinearColor& Tint = FLinearColor::White, ESlateDrawEffect Effects = ESlateDrawEffect::None)
 {
 	FSlateDrawElement::MakeBox(Canvas.Begin(), 0, Geometry, &Brush, Effects, Tint);
 	Canvas.Paint();
@@ -129,8 +129,8 @@ TEST(BoxPainting, ABrushThatDrawsNothingAndAMissingBrushLeaveNoElement)
 	const FSlateColorBrush Fill(FLinearColor::White);
 	FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 4, 4), &Nothing);
 	FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 4, 4), nullptr);
-	FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 4, 4), &Fill, ESlateDrawEffect::None,
-							   FLinearColor(1.0f, 1.0f, 1.0f, 0.0f));
+	FSlateDrawElement::MakeBox(
+		List, 0, MakeGeometry(0, 0, 4, 4), &Fill, ESlateDrawEffect::None, FLinearColor(1.0f, 1.0f, 1.0f, 0.0f));
 	EXPECT_EQ(List.GetElements().Num(), 0);
 }
 
@@ -149,7 +149,7 @@ TEST(BoxPainting, ADisabledElementIsFaded)
 {
 	FRenderCanvas Canvas(FIntPoint(4, 4));
 	PaintBrush(Canvas, FSlateColorBrush(FLinearColor::White), MakeGeometry(0, 0, 4, 4), FLinearColor::White,
-			   ESlateDrawEffect::DisabledEffect);
+		ESlateDrawEffect::DisabledEffect);
 	EXPECT_EQ(Canvas.CountOthers(FColor(115, 115, 115)), 0);
 }
 
@@ -206,7 +206,7 @@ TEST(RoundedBoxPainting, TheOutlineRunsInsideWithAColourOfItsOwn)
 {
 	FRenderCanvas Canvas(FIntPoint(20, 20));
 	PaintBrush(Canvas, FSlateRoundedBoxBrush(FLinearColor::White, 4.0f, FLinearColor::Blue, 2.0f), MakeGeometry(0, 0, 20, 20),
-			   FLinearColor::Green);
+		FLinearColor::Green);
 	EXPECT_EQ(Canvas.At(10, 0), FColor(0, 0, 255));
 	EXPECT_EQ(Canvas.At(1, 10), FColor(0, 0, 255));
 	EXPECT_EQ(Canvas.At(2, 10), FColor(0, 255, 0));
@@ -218,7 +218,7 @@ TEST(RoundedBoxPainting, AnOutlineShowsWithoutAFill)
 {
 	FRenderCanvas Canvas(FIntPoint(20, 20));
 	PaintBrush(Canvas, FSlateRoundedBoxBrush(FLinearColor::Transparent, 4.0f, FLinearColor::Blue, 1.0f),
-			   MakeGeometry(0, 0, 20, 20), FLinearColor::Transparent);
+		MakeGeometry(0, 0, 20, 20), FLinearColor::Transparent);
 	EXPECT_EQ(Canvas.At(10, 0), FColor(0, 0, 255));
 	EXPECT_EQ(Canvas.At(10, 10), Black);
 }
@@ -255,7 +255,7 @@ TEST(PictureBrush, TheTintMultipliesThePicture)
 {
 	FRenderCanvas Canvas(FIntPoint(12, 12));
 	PaintBrush(Canvas, FSlateImageBrush(WriteFramePicture(), FVector2D(12.0, 12.0)), MakeGeometry(0, 0, 12, 12),
-			   FLinearColor(FColor(0, 128, 255)));
+		FLinearColor(FColor(0, 128, 255)));
 	EXPECT_EQ(Canvas.At(0, 0), Black);
 	EXPECT_EQ(Canvas.At(6, 6), FColor(0, 128, 0));
 }
@@ -305,11 +305,11 @@ TEST(PictureBrush, TilesRepeatAtTheSizeOfTheBrush)
 TEST(PictureBrush, APictureTooLargeToKeepIsDrawnWhereItIsSeen)
 {
 	FRenderCanvas Canvas(FIntPoint(24, 24));
-	PaintBrush(Canvas, FSlateVectorImageBrush(WriteFramePicture(), FVector2D(12.0, 12.0)),
-			   MakeGeometry(-5000, -5000, 12000, 12000));
+	PaintBrush(
+		Canvas, FSlateVectorImageBrush(WriteFramePicture(), FVector2D(12.0, 12.0)), MakeGeometry(-5000, -5000, 12000, 12000));
 	EXPECT_EQ(Canvas.CountOthers(FColor(0, 255, 0)), 0);
-	PaintBrush(Canvas, FSlateVectorImageBrush(WriteFramePicture(), FVector2D(12.0, 12.0)),
-			   MakeGeometry(-1000, -1000, 12000, 12000));
+	PaintBrush(
+		Canvas, FSlateVectorImageBrush(WriteFramePicture(), FVector2D(12.0, 12.0)), MakeGeometry(-1000, -1000, 12000, 12000));
 	EXPECT_EQ(Canvas.CountOthers(FColor(255, 0, 0)), 0);
 }
 
@@ -323,7 +323,7 @@ TEST(PictureBrush, AMissingFileIsACheckerboardAndWarnsOnce)
 	EXPECT_NE(Canvas.At(0, 0), Canvas.At(8, 0));
 	EXPECT_EQ(Canvas.At(0, 0), Canvas.At(8, 8));
 	EXPECT_EQ(Log.Warnings(),
-			  TArray<FString>({TEXT("/nowhere/Missing.png: picture not loaded (file not found), a checkerboard is shown")}));
+		TArray<FString>({TEXT("/nowhere/Missing.png: picture not loaded (file not found), a checkerboard is shown")}));
 }
 
 TEST(PictureBrush, AFileThatIsNoPictureIsACheckerboard)

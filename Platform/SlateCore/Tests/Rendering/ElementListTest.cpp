@@ -83,12 +83,12 @@ TEST(Damage, PaintingAPartAnewGivesThePixelsOfAWholePaint)
 	const FSlateRoundedBoxBrush Rounded(FLinearColor::White, 6.0f, FLinearColor::Blue, 1.0f);
 	const auto Make = [&Rounded](FSlateWindowElementList& List)
 	{
-		FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 120, 40), &Fill, ESlateDrawEffect::None,
-								   FLinearColor(0.1f, 0.1f, 0.1f));
-		FSlateDrawElement::MakeBox(List, 1, MakeGeometry(3, 3, 110, 30), &Rounded, ESlateDrawEffect::None,
-								   FLinearColor(1.0f, 0.2f, 0.1f, 0.5f));
-		FSlateDrawElement::MakeText(List, 2, MakeGeometry(10, 10, 100, 20), FString(TEXT("Partly damaged")),
-									FSlateFontInfo(nullptr, 10));
+		FSlateDrawElement::MakeBox(
+			List, 0, MakeGeometry(0, 0, 120, 40), &Fill, ESlateDrawEffect::None, FLinearColor(0.1f, 0.1f, 0.1f));
+		FSlateDrawElement::MakeBox(
+			List, 1, MakeGeometry(3, 3, 110, 30), &Rounded, ESlateDrawEffect::None, FLinearColor(1.0f, 0.2f, 0.1f, 0.5f));
+		FSlateDrawElement::MakeText(
+			List, 2, MakeGeometry(10, 10, 100, 20), FString(TEXT("Partly damaged")), FSlateFontInfo(nullptr, 10));
 	};
 	Make(Whole.Begin());
 	Whole.Paint();
@@ -139,7 +139,7 @@ TEST(Lines, RunThroughTheirPointsInTheirColour)
 {
 	FRenderCanvas Canvas(FIntPoint(20, 20));
 	FSlateDrawElement::MakeLines(Canvas.Begin(), 0, MakeGeometry(2, 2, 16, 16), {FVector2D(0.0, 8.0), FVector2D(16.0, 8.0)},
-								 ESlateDrawEffect::None, FLinearColor::Green, true, 2.0f);
+		ESlateDrawEffect::None, FLinearColor::Green, true, 2.0f);
 	Canvas.Paint();
 	EXPECT_EQ(Canvas.CountOthers(FColor(0, 255, 0), FIntRect(2, 9, 18, 11)), 0);
 	EXPECT_EQ(Canvas.CountOthers(Black), 16 * 2);
@@ -166,7 +166,7 @@ TEST(RenderTransform, TurnsBoxTextAndLine)
 	EXPECT_EQ(Canvas.CountOthers(Black, FIntRect(32, 0, 60, 60)), 0);
 
 	FSlateDrawElement::MakeLines(Canvas.Begin(), 0, Geometry, {FVector2D(0.0, 2.0), FVector2D(20.0, 2.0)}, ESlateDrawEffect::None,
-								 FLinearColor::White, true, 2.0f);
+		FLinearColor::White, true, 2.0f);
 	Canvas.Paint();
 	EXPECT_EQ(Canvas.CountOthers(White, FIntRect(27, 31, 29, 49)), 0);
 	EXPECT_EQ(Canvas.CountOthers(Black, FIntRect(0, 0, 60, 29)), 0);

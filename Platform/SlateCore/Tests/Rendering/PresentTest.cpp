@@ -33,8 +33,8 @@ public:
 	virtual float GetDPIScaleFactor() const override { return 1.0f; }
 	virtual void SetDPIScaleFactor(const float) override {}
 	virtual void* GetOSWindowHandle() const override { return nullptr; }
-	virtual void PresentPixels(const uint8* Bgra, int32 Width, int32 Height, int32 Stride,
-							   const TArray<FIntRect>& InDamage) override
+	virtual void PresentPixels(
+		const uint8* Bgra, int32 Width, int32 Height, int32 Stride, const TArray<FIntRect>& InDamage) override
 	{
 		Size = FIntPoint(Width, Height);
 		Damage = InDamage;
@@ -59,8 +59,8 @@ TEST(Present, TheWindowGetsBgraBytesAndTheDamageCutAtIt)
 
 	FSlateWindowElementList& List = Renderer->GetDrawBuffer().AddWindowElementList(Window);
 	const FSlateColorBrush Brush(FLinearColor::White);
-	FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 30, 20), &Brush, ESlateDrawEffect::None,
-							   FLinearColor(FColor(1, 2, 3)));
+	FSlateDrawElement::MakeBox(
+		List, 0, MakeGeometry(0, 0, 30, 20), &Brush, ESlateDrawEffect::None, FLinearColor(FColor(1, 2, 3)));
 	List.AddDamage(FSlateRect(-5.0f, -5.0f, 10.5f, 10.0f));
 	Renderer->DrawWindows(Renderer->GetDrawBuffer());
 

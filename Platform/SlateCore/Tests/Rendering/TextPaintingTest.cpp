@@ -11,7 +11,7 @@ const FColor Black(0, 0, 0);
 const FSlateFontInfo Font(nullptr, 9);
 
 void PaintText(FRenderCanvas& Canvas, const TCHAR* Text, const FPaintGeometry& Geometry, const FSlateFontInfo& InFont = Font,
-			   const FLinearColor& Tint = FLinearColor::White)
+	const FLinearColor& Tint = FLinearColor::White)
 {
 	FSlateDrawElement::MakeText(Canvas.Begin(), 0, Geometry, FString(Text), InFont, ESlateDrawEffect::None, Tint);
 	Canvas.Paint();
@@ -98,7 +98,7 @@ TEST(TextPainting, ATranslucentTintLetsTheGroundShine)
 	const FSlateColorBrush Ground(FLinearColor::White);
 	FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0, 0, 100, 60), &Ground);
 	FSlateDrawElement::MakeText(List, 1, MakeGeometry(3, 3, 100, 14), FString(TEXT("\u2588")), FSlateFontInfo(nullptr, 30),
-								ESlateDrawEffect::None, FLinearColor(0.0f, 0.0f, 0.0f, 0.5f));
+		ESlateDrawEffect::None, FLinearColor(0.0f, 0.0f, 0.0f, 0.5f));
 	Canvas.Paint();
 	EXPECT_EQ(Canvas.At(12, 24), FColor(127, 127, 127));
 }
@@ -119,7 +119,7 @@ TEST(TextPainting, ShapedTextLooksLikeTheText)
 	FRenderCanvas Shaped(FIntPoint(100, 20));
 	PaintText(Plain, TEXT("shaped"), MakeGeometry(3, 3, 100, 14));
 	FSlateDrawElement::MakeShapedText(Shaped.Begin(), 0, MakeGeometry(3, 3, 100, 14),
-									  Shaped.Renderer->GetFontCache()->ShapeBidirectionalText(TEXT("shaped"), Font, 1.0f));
+		Shaped.Renderer->GetFontCache()->ShapeBidirectionalText(TEXT("shaped"), Font, 1.0f));
 	Shaped.Paint();
 	EXPECT_EQ(Plain.Pixels, Shaped.Pixels);
 }
@@ -128,7 +128,7 @@ TEST(TextPainting, AnOutlineSurroundsTheLettersInItsColour)
 {
 	FRenderCanvas Canvas(FIntPoint(100, 60));
 	PaintText(Canvas, TEXT("\u2588"), MakeGeometry(10, 10, 100, 14),
-			  FSlateFontInfo(nullptr, 18, NAME_None, FFontOutlineSettings(2, FLinearColor::Red)));
+		FSlateFontInfo(nullptr, 18, NAME_None, FFontOutlineSettings(2, FLinearColor::Red)));
 	const FIntRect Ink = FindInk(Canvas);
 	EXPECT_EQ(Canvas.At(Ink.Min.X + Ink.Width() / 2, Ink.Min.Y + Ink.Height() / 2), FColor(255, 255, 255));
 	EXPECT_EQ(Canvas.At(Ink.Min.X + Ink.Width() / 2, Ink.Min.Y + 1), FColor(255, 0, 0));

@@ -27,11 +27,12 @@ TEST(SlateStyle, AnUnknownNameGivesADefaultAndOneLineInTheLog)
 	EXPECT_EQ(&Style.GetWidgetStyle<FButtonStyle>("NoButton"), &FButtonStyle::GetDefault());
 	EXPECT_EQ(Style.GetFontStyle("NoFont"), FCoreStyle::GetDefaultFontStyle("Regular", 10));
 
-	EXPECT_EQ(Log.Warnings(), TArray<FString>({
-		TEXT("Unable to find brush 'Nothing' in style set 'Test'."),
-		TEXT("Unable to find FButtonStyle 'NoButton' in style set 'Test'."),
-		TEXT("Unable to find font 'NoFont' in style set 'Test'."),
-	}));
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({
+			TEXT("Unable to find brush 'Nothing' in style set 'Test'."),
+			TEXT("Unable to find FButtonStyle 'NoButton' in style set 'Test'."),
+			TEXT("Unable to find font 'NoFont' in style set 'Test'."),
+		}));
 }
 
 TEST(SlateStyle, AStyleOfAnotherTypeIsNotTaken)

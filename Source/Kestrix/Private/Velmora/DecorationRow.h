@@ -91,7 +91,7 @@ struct FHandledElsewhere
 /** The road of a value from JSON to a widget. False if no setter took it. */
 template <typename T>
 bool ApplyValue(const FDecorationColumns& Columns, const TValueReader<T>& Reader, const TArray<TSetter<T>>& Setters,
-				const FDecorationSite& Site, const TSharedPtr<FJsonValue>& JsonValue)
+	const FDecorationSite& Site, const TSharedPtr<FJsonValue>& JsonValue)
 {
 	using EBadValue = FDecorationColumns::EBadValue;
 

@@ -26,8 +26,8 @@ void CheckUnhandledKey(const FDecorationSite& Site, const FString& Path)
 	UE_LOG(Velmora, Warning, TEXT("Decorate: %s @ %s not handled, @ %s"), *Site.Key, *Site.WidgetType, *Path);
 	if (IsSameKey(Site.Key, TEXT("AutoHeight")) && IsSameKey(Site.WidgetType, TEXT("SGridPanel")))
 	{
-		UE_LOG(Velmora, Warning, TEXT("\t\"%s\" can be used in SVerticalBox or it's children, not %s"), *Site.Key,
-			   *Site.WidgetType);
+		UE_LOG(
+			Velmora, Warning, TEXT("\t\"%s\" can be used in SVerticalBox or it's children, not %s"), *Site.Key, *Site.WidgetType);
 	}
 }
 }

@@ -52,8 +52,7 @@ FOnClicked MakeClickHandler(const FString& Command)
 
 FOnCheckStateChanged MakeCheckHandler(const FString& Command)
 {
-	return FOnCheckStateChanged::CreateLambda(
-		[Command](ECheckBoxState State)
+	return FOnCheckStateChanged::CreateLambda([Command](ECheckBoxState State)
 		{ RunCommandWithValue(Command, State == ECheckBoxState::Checked ? TEXT("True") : TEXT("False")); });
 }
 

@@ -90,7 +90,7 @@ void AttachToVerticalBox(SWidget& Panel, const TSharedRef<SWidget>& Child, const
 void AttachToHorizontalBox(SWidget& Panel, const TSharedRef<SWidget>& Child, const FSlotRequest& Request)
 {
 	UE_CLOG(bLogCreateWidget && Request.PaddingValues.Num() > 0, Velmora, Log, TEXT("Apply PaddingValues: %f"),
-			Request.PaddingValues[0]);
+		Request.PaddingValues[0]);
 	auto Slot = static_cast<SHorizontalBox&>(Panel).AddSlot();
 	ApplyPadding(Slot, Request.PaddingValues);
 	Slot.HAlign(Request.HAlign).VAlign(Request.VAlign);

@@ -124,7 +124,7 @@ bool ParseStyleBrush(const TSharedPtr<FJsonValue>& Value, const FSlateBrush*& Ou
 			return true;
 		}
 		UE_LOG(Velmora, Warning, TEXT("Style: %s Not Support yet. Supperted Style: FEditorStyle, FCoreStyle and FAppStyle."),
-			   *Style);
+			*Style);
 	}
 	Out = FAppStyle::Get().GetBrush("NoBorder");
 	UE_LOG(Velmora, Warning, TEXT("Parse Image Brush failed, Default Image was used."));

@@ -148,7 +148,7 @@ TSharedPtr<FJsonObject> ParseDescription(const FString& FilePath, const FDescrip
 	OutError = FString::Printf(TEXT("Deserialize File %s failed, check: '\\' "), *FilePath);
 	UE_LOG(PythonKX, Warning, TEXT("%s"), *OutError);
 	UE_LOG(PythonKX, Display, TEXT("%s: %s"), *Description.DescribePlace(static_cast<int32>(Reader->GetLineNumber())),
-		   *Reader->GetErrorMessage());
+		*Reader->GetErrorMessage());
 	return nullptr;
 }
 

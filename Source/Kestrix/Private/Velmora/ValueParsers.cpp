@@ -98,27 +98,35 @@ bool ReadMarginNumbers(const FJsonValue& Value, const TCHAR* Parser, TArray<floa
 bool ParseHAlign(const TSharedPtr<FJsonValue>& Value, EHorizontalAlignment& Out)
 {
 	static const TSpelling<EHorizontalAlignment> Spellings[] = {
-		{TEXT("HAlign_Fill"), HAlign_Fill},		{TEXT("Fill"), HAlign_Fill},
-		{TEXT("HAlign_Left"), HAlign_Left},		{TEXT("Left"), HAlign_Left},
-		{TEXT("HAlign_Center"), HAlign_Center}, {TEXT("Center"), HAlign_Center},
-		{TEXT("HAlign_Right"), HAlign_Right},	{TEXT("Right"), HAlign_Right},
+		{TEXT("HAlign_Fill"), HAlign_Fill},
+		{TEXT("Fill"), HAlign_Fill},
+		{TEXT("HAlign_Left"), HAlign_Left},
+		{TEXT("Left"), HAlign_Left},
+		{TEXT("HAlign_Center"), HAlign_Center},
+		{TEXT("Center"), HAlign_Center},
+		{TEXT("HAlign_Right"), HAlign_Right},
+		{TEXT("Right"), HAlign_Right},
 	};
 	Out = HAlign_Fill;
-	return ParseSpelling(Value->AsString(), Spellings,
-						 TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"), Out);
+	return ParseSpelling(
+		Value->AsString(), Spellings, TEXT("ParseOrientation ParseHAlign Type Error, need String:  Fill/Left/Center/Right"), Out);
 }
 
 bool ParseVAlign(const TSharedPtr<FJsonValue>& Value, EVerticalAlignment& Out)
 {
 	static const TSpelling<EVerticalAlignment> Spellings[] = {
-		{TEXT("VHAlign_Fill"), VAlign_Fill},	{TEXT("Fill"), VAlign_Fill},
-		{TEXT("VAlign_Top"), VAlign_Top},		{TEXT("Top"), VAlign_Top},
-		{TEXT("VAlign_Center"), VAlign_Center}, {TEXT("Center"), VAlign_Center},
-		{TEXT("VAlign_Bottom"), VAlign_Bottom}, {TEXT("Bottom"), VAlign_Bottom},
+		{TEXT("VHAlign_Fill"), VAlign_Fill},
+		{TEXT("Fill"), VAlign_Fill},
+		{TEXT("VAlign_Top"), VAlign_Top},
+		{TEXT("Top"), VAlign_Top},
+		{TEXT("VAlign_Center"), VAlign_Center},
+		{TEXT("Center"), VAlign_Center},
+		{TEXT("VAlign_Bottom"), VAlign_Bottom},
+		{TEXT("Bottom"), VAlign_Bottom},
 	};
 	Out = VAlign_Fill;
-	return ParseSpelling(Value->AsString(), Spellings,
-						 TEXT("ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"), Out);
+	return ParseSpelling(
+		Value->AsString(), Spellings, TEXT("ParseOrientation ParseVAlign Type Error, need String:  Fill/Left/Center/Right"), Out);
 }
 
 bool ParseOrientation(const TSharedPtr<FJsonValue>& Value, EOrientation& Out)
@@ -134,8 +142,8 @@ bool ParseOrientation(const TSharedPtr<FJsonValue>& Value, EOrientation& Out)
 		Out = Orient_Vertical;
 		return true;
 	}
-	return ParseSpelling(Text, WholeWords, TEXT("ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical"),
-						 Out);
+	return ParseSpelling(
+		Text, WholeWords, TEXT("ParseOrientation JsonValue Type Error, need String:  Horizontal or Vertical"), Out);
 }
 
 const TCHAR* const VisibilityHelp =
@@ -167,15 +175,17 @@ bool ParseVisibility(const TSharedPtr<FJsonValue>& Value, EVisibility& Out)
 bool ParseBarFillType(const TSharedPtr<FJsonValue>& Value, EProgressBarFillType::Type& Out)
 {
 	static const TSpelling<EProgressBarFillType::Type> Spellings[] = {
-		{TEXT("LeftToRight"), EProgressBarFillType::LeftToRight},		{TEXT("RightToLeft"), EProgressBarFillType::RightToLeft},
-		{TEXT("FillFromCenter"), EProgressBarFillType::FillFromCenter}, {TEXT("TopToBottom"), EProgressBarFillType::TopToBottom},
+		{TEXT("LeftToRight"), EProgressBarFillType::LeftToRight},
+		{TEXT("RightToLeft"), EProgressBarFillType::RightToLeft},
+		{TEXT("FillFromCenter"), EProgressBarFillType::FillFromCenter},
+		{TEXT("TopToBottom"), EProgressBarFillType::TopToBottom},
 		{TEXT("BottomToTop"), EProgressBarFillType::BottomToTop},
 	};
 	return Value->Type == EJson::String &&
-		   ParseSpelling(Value->AsString(), Spellings,
-						 TEXT("ParseBarFillType Type Error, need String:  "
-							  "LeftToRight/RightToLeft/FillFromCenter/TopToBottom/BottomToTop/UseMaterial"),
-						 Out);
+		ParseSpelling(Value->AsString(), Spellings,
+			TEXT("ParseBarFillType Type Error, need String:  "
+				 "LeftToRight/RightToLeft/FillFromCenter/TopToBottom/BottomToTop/UseMaterial"),
+			Out);
 }
 
 bool ParseResizeMode(const TSharedPtr<FJsonValue>& Value, ESplitterResizeMode::Type& Out)
@@ -187,8 +197,8 @@ bool ParseResizeMode(const TSharedPtr<FJsonValue>& Value, ESplitterResizeMode::T
 	};
 	Out = ESplitterResizeMode::FixedPosition;
 	return Value->Type == EJson::String &&
-		   ParseSpelling(Value->AsString(), Spellings, TEXT("ResizeMode Type Error, need String:  FixedPosition/FixedSize/Fill"),
-						 Out);
+		ParseSpelling(
+			Value->AsString(), Spellings, TEXT("ResizeMode Type Error, need String:  FixedPosition/FixedSize/Fill"), Out);
 }
 
 bool ParseTextWrappingPolicy(const TSharedPtr<FJsonValue>& Value, ETextWrappingPolicy& Out)
@@ -201,9 +211,8 @@ bool ParseTextWrappingPolicy(const TSharedPtr<FJsonValue>& Value, ETextWrappingP
 	};
 	Out = ETextWrappingPolicy::DefaultWrapping;
 	return Value->Type == EJson::String &&
-		   ParseSpelling(Value->AsString(), Spellings,
-						 TEXT("ParseTextWrappingPolicy Type Error, need String:  AllowPerCharacterWrapping/DefaultWrapping"),
-						 Out);
+		ParseSpelling(Value->AsString(), Spellings,
+			TEXT("ParseTextWrappingPolicy Type Error, need String:  AllowPerCharacterWrapping/DefaultWrapping"), Out);
 }
 
 bool ParseJustification(const TSharedPtr<FJsonValue>& Value, ETextJustify::Type& Out)

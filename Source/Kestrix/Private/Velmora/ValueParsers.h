@@ -81,8 +81,8 @@ bool ParseIntArray(const TSharedPtr<FJsonValue>& Value, TArray<int32>& Out);
 bool ParseComboBoxOptionsSource(const TSharedPtr<FJsonValue>& Value, TArray<FString>& Out);
 
 /** Also gives one shared copy of each string, in the same order. */
-bool ParseComboBoxOptionsSource(const TSharedPtr<FJsonValue>& Value, TArray<FString>& Out,
-								TArray<TSharedPtr<FString>>& OutShared);
+bool ParseComboBoxOptionsSource(
+	const TSharedPtr<FJsonValue>& Value, TArray<FString>& Out, TArray<TSharedPtr<FString>>& OutShared);
 
 /** An array of arrays of strings; entries that are no array are skipped. Empty on failure. */
 bool ParseStrArray2D(const TSharedPtr<FJsonValue>& Value, TArray<TArray<FString>>& Out);

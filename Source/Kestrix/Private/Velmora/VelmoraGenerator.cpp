@@ -82,7 +82,7 @@ void BuildSlots(const FString& Key, const TSharedPtr<FJsonValue>& Value, const F
 	if (!Value->TryGetArray(Elements))
 	{
 		UE_LOG(Velmora, Log, TEXT("%sSlots Should be Array Type, KeyName: %s  parent: %s"), *Walk.Indent(), *Key,
-			   *Walk.ParentType());
+			*Walk.ParentType());
 		return;
 	}
 	for (int32 Index = 0; Index < Elements->Num(); ++Index)
@@ -91,7 +91,7 @@ void BuildSlots(const FString& Key, const TSharedPtr<FJsonValue>& Value, const F
 		if (!(*Elements)[Index]->TryGetObject(Slot))
 		{
 			UE_LOG(Velmora, Log, TEXT("%sSlots Element should be Object Type, KeyName: %s  parent: %s"), *Walk.Indent(), *Key,
-				   *Walk.ParentType());
+				*Walk.ParentType());
 			continue;
 		}
 		BuildSlot(**Slot, Walk, FString::Printf(TEXT("%s_%d"), *SlotsPath, Index));
@@ -114,9 +114,9 @@ void BuildContentFields(const FString& Key, const FJsonObject& Content, const FW
 		else
 		{
 			UE_LOG(Velmora, Warning,
-				   TEXT("%sAdd Behavior Error, Parent == ContentWidget. Make sure \"Content\" has only one child. KeyName: %s  "
-						"parent: %s, path: %s"),
-				   *Walk.Indent(), *Key, *Walk.ParentType(), *ContentPath);
+				TEXT("%sAdd Behavior Error, Parent == ContentWidget. Make sure \"Content\" has only one child. KeyName: %s  "
+					 "parent: %s, path: %s"),
+				*Walk.Indent(), *Key, *Walk.ParentType(), *ContentPath);
 		}
 		if (++NumFields == FieldLimit)
 		{
@@ -135,7 +135,7 @@ void BuildContent(const FString& Key, const TSharedPtr<FJsonValue>& Value, const
 	if (!Value->TryGetObject(Content))
 	{
 		UE_LOG(Velmora, Log, TEXT("%sIsBehavior Should be object Type, KeyName: %s  parent: %s"), *Walk.Indent(), *Key,
-			   *Walk.ParentType());
+			*Walk.ParentType());
 		return;
 	}
 
@@ -214,11 +214,11 @@ TSharedRef<SWidget> GenerateWidgetFromFile(const FString& FilePath, const FStrin
 }
 
 TSharedRef<SWidget> Build(const FString& Key, TSharedPtr<FJsonValue> Value, TSharedRef<SWidget> Parent, int32 Depth,
-						  const FString& Path, SVelmoraWidget* Context)
+	const FString& Path, SVelmoraWidget* Context)
 {
 	const FWalk Walk = {Parent, Depth, Path, Context};
 	UE_CLOG(bLogCreateWidget, Velmora, Log, TEXT("%sBuild call FieldName: %s  parent: %s   : %s"), *Walk.Indent(), *Key,
-			*Walk.ParentType(), *Path);
+		*Walk.ParentType(), *Path);
 
 	if (IsBehaviorKey(Key))
 	{

@@ -27,7 +27,7 @@ TSharedRef<SWidget> GenerateWidgetFromFile(const FString& FilePath, const FStrin
  * @return The new widget, or Parent if the field made none.
  */
 TSharedRef<SWidget> Build(const FString& Key, TSharedPtr<FJsonValue> Value, TSharedRef<SWidget> Parent, int32 Depth,
-						  const FString& Path, SVelmoraWidget* Context);
+	const FString& Path, SVelmoraWidget* Context);
 
 /** A widget that shows a message in the place of a tool. */
 TSharedRef<SWidget> MakeErrorWidget(const FString& Message);

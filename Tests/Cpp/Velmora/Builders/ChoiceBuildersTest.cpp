@@ -95,7 +95,8 @@ TEST(ButtonBuilder, TextStyleIsReadBeforeTheButtonsOwn)
 {
 	const FLogCapture Log(TEXT("Velmora"));
 
-	BuildButton(R"({ "SButton": { "ButtonStyle": { "Style": "B", "StyleName": "" }, "TextStyle": { "Style": "T", "StyleName": "" } } })");
+	BuildButton(
+		R"({ "SButton": { "ButtonStyle": { "Style": "B", "StyleName": "" }, "TextStyle": { "Style": "T", "StyleName": "" } } })");
 
 	EXPECT_EQ(Log.Warnings()[0], FString(TEXT("Style: T Not Support yet")));
 	EXPECT_EQ(Log.Warnings()[2], FString(TEXT("Style: B Not Support yet")));

@@ -52,7 +52,7 @@ TEST(LayoutBuilders, BorderOfAnUnknownStyleStaysAsItWas)
 
 	EXPECT_EQ(BorderImageOf(Border), BorderImageOf(SNew(SBorder)));
 	EXPECT_EQ(Log.Lines(),
-			  FLines({TEXT("Velmora: Warning: Style: MyStyle Not Support yet. Supperted Style: FEditorStyle and FCoreStyle.")}));
+		FLines({TEXT("Velmora: Warning: Style: MyStyle Not Support yet. Supperted Style: FEditorStyle and FCoreStyle.")}));
 }
 
 TEST(LayoutBuilders, BorderImageThatIsNoObjectIsIgnored)

@@ -6,8 +6,8 @@ FTextBlockLayout::FTextBlockLayout()
 {
 }
 
-void FTextBlockLayout::Update(const FString& Text, const FSlateFontInfo& Font, float Scale, const FTextRowFormat& Format,
-							  float ViewWidth)
+void FTextBlockLayout::Update(
+	const FString& Text, const FSlateFontInfo& Font, float Scale, const FTextRowFormat& Format, float ViewWidth)
 {
 	if (!Document.Equals(Text))
 	{

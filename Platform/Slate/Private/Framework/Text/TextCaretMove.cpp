@@ -60,7 +60,7 @@ bool IsVerticalMove(ETextCaretMove Move)
 }
 
 FTextCaret GetMovedCaret(const FTextDocument& Document, const FTextRows& Rows, const FTextCaret& Caret, ETextCaretMove Move,
-						 float Column, int32 RowsPerPage)
+	float Column, int32 RowsPerPage)
 {
 	switch (Move)
 	{

@@ -31,4 +31,4 @@ bool IsVerticalMove(ETextCaretMove Move);
  * @param RowsPerPage  Rows that a page step passes.
  */
 FTextCaret GetMovedCaret(const FTextDocument& Document, const FTextRows& Rows, const FTextCaret& Caret, ETextCaretMove Move,
-						 float Column, int32 RowsPerPage);
+	float Column, int32 RowsPerPage);

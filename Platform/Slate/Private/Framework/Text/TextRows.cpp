@@ -40,7 +40,7 @@ int32 GetLenWithoutBlanks(const FString& Row)
 bool FTextRowFormat::operator==(const FTextRowFormat& Other) const
 {
 	return WrapWidth == Other.WrapWidth && WrappingPolicy == Other.WrappingPolicy && Justification == Other.Justification &&
-		   LineHeightPercentage == Other.LineHeightPercentage && bPassword == Other.bPassword;
+		LineHeightPercentage == Other.LineHeightPercentage && bPassword == Other.bPassword;
 }
 
 FTextRows::FTextRows(const FTextDocument& InDocument)

@@ -12,7 +12,10 @@ const FButtonStyle& GetDefaultButtonStyle()
 }
 }
 
-SButton::SButton() : Style(&GetDefaultButtonStyle()) {}
+SButton::SButton()
+	: Style(&GetDefaultButtonStyle())
+{
+}
 
 void SButton::Construct(const FArguments& InArgs)
 {

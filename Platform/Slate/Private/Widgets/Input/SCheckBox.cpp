@@ -44,7 +44,10 @@ private:
 };
 }
 
-SCheckBox::SCheckBox() : Style(&GetDefaultCheckBoxStyle()) {}
+SCheckBox::SCheckBox()
+	: Style(&GetDefaultCheckBoxStyle())
+{
+}
 
 void SCheckBox::Construct(const FArguments& InArgs)
 {
@@ -105,7 +108,7 @@ void SCheckBox::SetStyle(const FCheckBoxStyle* InStyle)
 FSlateColor SCheckBox::GetForegroundColor() const
 {
 	return ForegroundOverride.Get().GetColorRule() == ESlateColorStylingMode::UseColor_UseStyle ? Style->ForegroundColor
-																								 : ForegroundOverride.Get();
+																								: ForegroundOverride.Get();
 }
 
 const FSlateBrush* SCheckBox::GetStateImage() const

@@ -22,7 +22,7 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 		OwnPadding = InArgs._Padding.Get();
 	}
 	ConstructFrame({InArgs._Style, InArgs._Font, InArgs._ForegroundColor, InArgs._BackgroundColor, InArgs._IsReadOnly},
-				   EditableText.ToSharedRef(), Room.ToSharedRef());
+		EditableText.ToSharedRef(), Room.ToSharedRef());
 }
 
 void SEditableTextBox::OnStyleChanged()

@@ -10,8 +10,8 @@ const FEditableTextBoxStyle& GetDefaultStyle()
 }
 }
 
-void SEditableTextBoxBase::ConstructFrame(const FFrame& Frame, const TSharedRef<SEditableTextBase>& InField,
-										  const TSharedRef<SWidget>& InContent)
+void SEditableTextBoxBase::ConstructFrame(
+	const FFrame& Frame, const TSharedRef<SEditableTextBase>& InField, const TSharedRef<SWidget>& InContent)
 {
 	SBorder::Construct(SBorder::FArguments()
 						   .Padding(FMargin(0.0f))
@@ -78,8 +78,8 @@ FSlateColor SEditableTextBoxBase::GetForegroundColor() const
 	return Field->HasKeyboardFocus() ? Style->FocusedForegroundColor : Style->ForegroundColor;
 }
 
-void SEditableTextBoxBase::OnFocusChanging(const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath,
-										   const FFocusEvent& InFocusEvent)
+void SEditableTextBoxBase::OnFocusChanging(
+	const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent)
 {
 	SBorder::OnFocusChanging(PreviousFocusPath, NewWidgetPath, InFocusEvent);
 	Invalidate(EInvalidateWidgetReason::Paint);

@@ -57,7 +57,7 @@ void SMultiLineEditableTextBox::Construct(const FArguments& InArgs)
 		OwnPadding = InArgs._Padding.Get();
 	}
 	ConstructFrame({InArgs._Style, InArgs._Font, InArgs._ForegroundColor, InArgs._BackgroundColor, InArgs._IsReadOnly},
-				   EditableText.ToSharedRef(), Content);
+		EditableText.ToSharedRef(), Content);
 }
 
 void SMultiLineEditableTextBox::OnStyleChanged()

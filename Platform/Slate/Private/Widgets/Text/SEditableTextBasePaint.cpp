@@ -33,14 +33,14 @@ struct SEditableTextBase::FPainter
 
 	void PaintBox(int32 Layer, const FSlateBrush& Brush, const FVector2D& Position, const FVector2D& Size) const
 	{
-		FSlateDrawElement::MakeBox(Elements, Layer, Geometry.ToPaintGeometry(Origin + Position, Size), &Brush, Effect,
-								   Brush.GetTint(Style) * GetTint());
+		FSlateDrawElement::MakeBox(
+			Elements, Layer, Geometry.ToPaintGeometry(Origin + Position, Size), &Brush, Effect, Brush.GetTint(Style) * GetTint());
 	}
 
 	void PaintText(int32 Layer, const FString& Text, const FVector2D& Position, const FLinearColor& Color) const
 	{
 		FSlateDrawElement::MakeText(Elements, Layer, Geometry.ToPaintGeometry(Origin + Position, Geometry.GetLocalSize()), Text,
-									Field.GetFont(), Effect, Color * GetTint());
+			Field.GetFont(), Effect, Color * GetTint());
 	}
 
 	void PaintSelection(int32 Layer, const FTextRow& Row, const FTextSelection& Selection) const
@@ -63,7 +63,7 @@ struct SEditableTextBase::FPainter
 		if (Left < Right)
 		{
 			PaintBox(Layer, *Field.Look.SelectionImage, FVector2D(Row.Left + Left, Row.Top),
-					 FVector2D(Right - Left, Rows.GetRowHeight()));
+				FVector2D(Right - Left, Rows.GetRowHeight()));
 		}
 	}
 };
@@ -74,8 +74,7 @@ const FSlateBrush* SEditableTextBase::GetFocusBrush() const
 }
 
 int32 SEditableTextBase::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
-								 FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle,
-								 bool bParentEnabled) const
+	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
 	const int32 TextLayer = LayerId + 1;
 	const int32 CaretLayer = LayerId + 2;
@@ -83,13 +82,8 @@ int32 SEditableTextBase::OnPaint(const FPaintArgs& Args, const FGeometry& Allott
 	const FMargin Margin = GetTextMargin();
 	const FTextRows& Rows = UpdateRows(AllottedGeometry.Scale, AllottedGeometry.GetLocalSize().X);
 	const ESlateDrawEffect Effect = ShouldBeEnabled(bParentEnabled) ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect;
-	const FPainter Painter{*this,
-						   Rows,
-						   AllottedGeometry,
-						   OutDrawElements,
-						   InWidgetStyle,
-						   Effect,
-						   FVector2D(Margin.Left, Margin.Top) - SnapToPixels(ViewOffset, AllottedGeometry.Scale)};
+	const FPainter Painter{*this, Rows, AllottedGeometry, OutDrawElements, InWidgetStyle, Effect,
+		FVector2D(Margin.Left, Margin.Top) - SnapToPixels(ViewOffset, AllottedGeometry.Scale)};
 	const FLinearColor Color = GetTextColor(InWidgetStyle);
 
 	if (Editor->GetDocument().IsEmpty() && !HintText.Get().IsEmpty())
@@ -122,8 +116,8 @@ int32 SEditableTextBase::OnPaint(const FPaintArgs& Args, const FGeometry& Allott
 
 	if (bCaretIsLit && !IsTextReadOnly() && HasKeyboardFocus())
 	{
-		Painter.PaintBox(CaretLayer, *Look.CaretImage, Rows.GetCaretPosition(Editor->GetCaret()),
-						 FVector2D(CaretWidth, Rows.GetRowHeight()));
+		Painter.PaintBox(
+			CaretLayer, *Look.CaretImage, Rows.GetCaretPosition(Editor->GetCaret()), FVector2D(CaretWidth, Rows.GetRowHeight()));
 	}
 	return CaretLayer;
 }

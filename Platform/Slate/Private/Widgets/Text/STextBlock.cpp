@@ -195,7 +195,7 @@ bool STextBlock::NeedsLayout() const
 	const FString& String = Text.Get().ToString();
 	int32 Index;
 	return Set.AutoWrapText.Value.Get() || Set.WrapTextAt.Value.Get() > 0.0f || String.FindChar(TEXT('\n'), Index) ||
-		   String.FindChar(TEXT('\r'), Index);
+		String.FindChar(TEXT('\r'), Index);
 }
 
 FVector2D STextBlock::GetSpaceAroundText() const
@@ -274,8 +274,7 @@ float STextBlock::GetJustifiedLeft(const FString& Row, const FGeometry& Geometry
 }
 
 void STextBlock::PaintRow(const FString& Row, const FVector2D& Position, const FGeometry& Geometry,
-						  FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle,
-						  bool bEnabled) const
+	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bEnabled) const
 {
 	const ESlateDrawEffect Effect = bEnabled ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect;
 	const FLinearColor& Tint = InWidgetStyle.GetColorAndOpacityTint();
@@ -285,16 +284,15 @@ void STextBlock::PaintRow(const FString& Row, const FVector2D& Position, const F
 	if (!Shadow.IsZero())
 	{
 		FSlateDrawElement::MakeText(OutDrawElements, LayerId,
-									Geometry.ToPaintGeometry(Position + Shadow, Geometry.GetLocalSize()), Row, Font, Effect,
-									GetShadowColorAndOpacity() * Tint);
+			Geometry.ToPaintGeometry(Position + Shadow, Geometry.GetLocalSize()), Row, Font, Effect,
+			GetShadowColorAndOpacity() * Tint);
 	}
 	FSlateDrawElement::MakeText(OutDrawElements, LayerId, Geometry.ToPaintGeometry(Position, Geometry.GetLocalSize()), Row, Font,
-								Effect, GetColorAndOpacity().GetColor(InWidgetStyle) * Tint);
+		Effect, GetColorAndOpacity().GetColor(InWidgetStyle) * Tint);
 }
 
 int32 STextBlock::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
-						  FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle,
-						  bool bParentEnabled) const
+	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
 	const bool bEnabled = ShouldBeEnabled(bParentEnabled);
 	const FOverrides& Set = GetOverrides();
@@ -306,7 +304,7 @@ int32 STextBlock::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeome
 	{
 		const FString& String = Text.Get().ToString();
 		PaintRow(String, Origin + FVector2D(GetJustifiedLeft(String, AllottedGeometry), 0.0), AllottedGeometry, OutDrawElements,
-				 LayerId, InWidgetStyle, bEnabled);
+			LayerId, InWidgetStyle, bEnabled);
 		return LayerId;
 	}
 
@@ -318,8 +316,8 @@ int32 STextBlock::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeome
 	for (int32 RowIndex = Rows.GetRowIndexAtHeight(CullingTop.Y); RowIndex <= LastRow; ++RowIndex)
 	{
 		const FTextRow Row = Rows.GetRow(RowIndex);
-		PaintRow(Row.Text, Origin + FVector2D(Row.Left, Row.Top), AllottedGeometry, OutDrawElements, LayerId, InWidgetStyle,
-				 bEnabled);
+		PaintRow(
+			Row.Text, Origin + FVector2D(Row.Left, Row.Top), AllottedGeometry, OutDrawElements, LayerId, InWidgetStyle, bEnabled);
 	}
 	return LayerId;
 }

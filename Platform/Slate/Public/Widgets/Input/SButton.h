@@ -18,18 +18,18 @@ public:
 		, _IsFocusable(true)
 	{
 	}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
-		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
-		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
-		SLATE_ARGUMENT(EVerticalAlignment, VAlign)
-		/** Added to the padding of the style. */
-		SLATE_ARGUMENT(FMargin, ContentPadding)
-		SLATE_ATTRIBUTE(FText, Text)
-		SLATE_EVENT(FOnClicked, OnClicked)
-		SLATE_ATTRIBUTE(FSlateColor, ButtonColorAndOpacity)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
-		SLATE_ARGUMENT(bool, IsFocusable)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
+	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+	SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
+	SLATE_ARGUMENT(EVerticalAlignment, VAlign)
+	/** Added to the padding of the style. */
+	SLATE_ARGUMENT(FMargin, ContentPadding)
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_EVENT(FOnClicked, OnClicked)
+	SLATE_ATTRIBUTE(FSlateColor, ButtonColorAndOpacity)
+	SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+	SLATE_ARGUMENT(bool, IsFocusable)
 	SLATE_END_ARGS()
 
 	SButton();

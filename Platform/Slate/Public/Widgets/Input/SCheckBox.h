@@ -18,14 +18,14 @@ public:
 		, _HAlign(HAlign_Fill)
 	{
 	}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
-		SLATE_EVENT(FOnCheckStateChanged, OnCheckStateChanged)
-		SLATE_ATTRIBUTE(ECheckBoxState, IsChecked)
-		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
-		/** Around the content; without it the style's padding holds. */
-		SLATE_ARGUMENT(TOptional<FMargin>, Padding)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
+	SLATE_EVENT(FOnCheckStateChanged, OnCheckStateChanged)
+	SLATE_ATTRIBUTE(ECheckBoxState, IsChecked)
+	SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
+	/** Around the content; without it the style's padding holds. */
+	SLATE_ARGUMENT(TOptional<FMargin>, Padding)
+	SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
 	SLATE_END_ARGS()
 
 	SCheckBox();

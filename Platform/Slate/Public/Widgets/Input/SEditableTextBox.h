@@ -21,25 +21,25 @@ public:
 		, _MinDesiredWidth(0.0f)
 	{
 	}
-		SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
-		SLATE_ATTRIBUTE(FText, Text)
-		SLATE_ATTRIBUTE(FText, HintText)
+	SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_ATTRIBUTE(FText, HintText)
 
-		// These replace what the style says.
-		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
-		SLATE_ATTRIBUTE(FSlateColor, BackgroundColor)
-		SLATE_ATTRIBUTE(FMargin, Padding)
+	// These replace what the style says.
+	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+	SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+	SLATE_ATTRIBUTE(FSlateColor, BackgroundColor)
+	SLATE_ATTRIBUTE(FMargin, Padding)
 
-		SLATE_ATTRIBUTE(bool, IsReadOnly)
-		SLATE_ATTRIBUTE(bool, IsPassword)
-		SLATE_ATTRIBUTE(bool, SelectAllTextWhenFocused)
-		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
-		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
-		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
-		SLATE_ATTRIBUTE(float, MinDesiredWidth)
-		SLATE_EVENT(FOnTextChanged, OnTextChanged)
-		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	SLATE_ATTRIBUTE(bool, IsReadOnly)
+	SLATE_ATTRIBUTE(bool, IsPassword)
+	SLATE_ATTRIBUTE(bool, SelectAllTextWhenFocused)
+	SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
+	SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
+	SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+	SLATE_ATTRIBUTE(float, MinDesiredWidth)
+	SLATE_EVENT(FOnTextChanged, OnTextChanged)
+	SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

@@ -24,31 +24,31 @@ public:
 		, _RevertTextOnEscape(false)
 	{
 	}
-		SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
-		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
-		SLATE_ATTRIBUTE(FText, Text)
-		SLATE_ATTRIBUTE(FText, HintText)
+	SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
+	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_ATTRIBUTE(FText, HintText)
 
-		// These replace what the style says.
-		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
-		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
-		SLATE_ATTRIBUTE(FSlateColor, BackgroundColor)
+	// These replace what the style says.
+	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+	SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+	SLATE_ATTRIBUTE(FSlateColor, BackgroundColor)
 
-		/** Between the frame and the part that scrolls. */
-		SLATE_ATTRIBUTE(FMargin, Padding)
+	/** Between the frame and the part that scrolls. */
+	SLATE_ATTRIBUTE(FMargin, Padding)
 
-		/** Around the text within the part that scrolls. */
-		SLATE_ATTRIBUTE(FMargin, Margin)
-		SLATE_ATTRIBUTE(float, WrapTextAt)
-		SLATE_ATTRIBUTE(bool, AutoWrapText)
-		SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
-		SLATE_ATTRIBUTE(float, LineHeightPercentage)
-		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
-		SLATE_ATTRIBUTE(bool, IsReadOnly)
-		SLATE_ARGUMENT(bool, AlwaysShowScrollbars)
-		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
-		SLATE_EVENT(FOnTextChanged, OnTextChanged)
-		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	/** Around the text within the part that scrolls. */
+	SLATE_ATTRIBUTE(FMargin, Margin)
+	SLATE_ATTRIBUTE(float, WrapTextAt)
+	SLATE_ATTRIBUTE(bool, AutoWrapText)
+	SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
+	SLATE_ATTRIBUTE(float, LineHeightPercentage)
+	SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+	SLATE_ATTRIBUTE(bool, IsReadOnly)
+	SLATE_ARGUMENT(bool, AlwaysShowScrollbars)
+	SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
+	SLATE_EVENT(FOnTextChanged, OnTextChanged)
+	SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

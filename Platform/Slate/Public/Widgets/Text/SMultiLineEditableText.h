@@ -25,33 +25,33 @@ public:
 		, _RevertTextOnEscape(false)
 	{
 	}
-		SLATE_ATTRIBUTE(FText, Text)
-		SLATE_ATTRIBUTE(FText, HintText)
-		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
-		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_ATTRIBUTE(FText, HintText)
+	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
 
-		/** The width in Slate units at which lines are broken; 0 for none. With AutoWrapText the smaller width counts. */
-		SLATE_ATTRIBUTE(float, WrapTextAt)
+	/** The width in Slate units at which lines are broken; 0 for none. With AutoWrapText the smaller width counts. */
+	SLATE_ATTRIBUTE(float, WrapTextAt)
 
-		/** Whether lines are broken at the width of the widget. */
-		SLATE_ATTRIBUTE(bool, AutoWrapText)
-		SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
+	/** Whether lines are broken at the width of the widget. */
+	SLATE_ATTRIBUTE(bool, AutoWrapText)
+	SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
 
-		/** Blank space around the text. */
-		SLATE_ATTRIBUTE(FMargin, Margin)
+	/** Blank space around the text. */
+	SLATE_ATTRIBUTE(FMargin, Margin)
 
-		/** Scales the distance of the rows; 1 is the font's own. */
-		SLATE_ATTRIBUTE(float, LineHeightPercentage)
-		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
-		SLATE_ATTRIBUTE(bool, IsReadOnly)
-		SLATE_ATTRIBUTE(bool, SelectAllTextWhenFocused)
-		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
+	/** Scales the distance of the rows; 1 is the font's own. */
+	SLATE_ATTRIBUTE(float, LineHeightPercentage)
+	SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+	SLATE_ATTRIBUTE(bool, IsReadOnly)
+	SLATE_ATTRIBUTE(bool, SelectAllTextWhenFocused)
+	SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
 
-		/** Bars that scroll this text; it takes over what they do. */
-		SLATE_ARGUMENT(TSharedPtr<SScrollBar>, HScrollBar)
-		SLATE_ARGUMENT(TSharedPtr<SScrollBar>, VScrollBar)
-		SLATE_EVENT(FOnTextChanged, OnTextChanged)
-		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	/** Bars that scroll this text; it takes over what they do. */
+	SLATE_ARGUMENT(TSharedPtr<SScrollBar>, HScrollBar)
+	SLATE_ARGUMENT(TSharedPtr<SScrollBar>, VScrollBar)
+	SLATE_EVENT(FOnTextChanged, OnTextChanged)
+	SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
 	SLATE_END_ARGS()
 
 	SMultiLineEditableText();
@@ -61,7 +61,10 @@ public:
 	void SetTextStyle(const FTextBlockStyle* InTextStyle);
 	void SetWrapTextAt(const TAttribute<float>& InWrapTextAt) { SetAttribute(WrapTextAt, InWrapTextAt); }
 	void SetAutoWrapText(const TAttribute<bool>& InAutoWrapText) { SetAttribute(AutoWrapText, InAutoWrapText); }
-	void SetWrappingPolicy(const TAttribute<ETextWrappingPolicy>& InWrappingPolicy) { SetAttribute(WrappingPolicy, InWrappingPolicy); }
+	void SetWrappingPolicy(const TAttribute<ETextWrappingPolicy>& InWrappingPolicy)
+	{
+		SetAttribute(WrappingPolicy, InWrappingPolicy);
+	}
 	void SetLineHeightPercentage(const TAttribute<float>& InPercentage) { SetAttribute(LineHeightPercentage, InPercentage); }
 	void SetMargin(const TAttribute<FMargin>& InMargin) { SetAttribute(Margin, InMargin); }
 

@@ -23,29 +23,29 @@ public:
 		: _TextStyle(&FCoreStyle::Get().GetWidgetStyle<FTextBlockStyle>("NormalText"))
 	{
 	}
-		SLATE_ATTRIBUTE(FText, Text)
-		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
-		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
-		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
+	SLATE_ATTRIBUTE(FText, Text)
+	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+	SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
 
-		/** Slate units, right and down. (0, 0) is no shadow. */
-		SLATE_ATTRIBUTE(FVector2D, ShadowOffset)
-		SLATE_ATTRIBUTE(FLinearColor, ShadowColorAndOpacity)
+	/** Slate units, right and down. (0, 0) is no shadow. */
+	SLATE_ATTRIBUTE(FVector2D, ShadowOffset)
+	SLATE_ATTRIBUTE(FLinearColor, ShadowColorAndOpacity)
 
-		/** The width in Slate units at which lines are broken; 0 for none. */
-		SLATE_ATTRIBUTE(float, WrapTextAt)
+	/** The width in Slate units at which lines are broken; 0 for none. */
+	SLATE_ATTRIBUTE(float, WrapTextAt)
 
-		/** Whether lines are broken at the width that the widget was given last. With WrapTextAt the smaller width counts. */
-		SLATE_ATTRIBUTE(bool, AutoWrapText)
-		SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
+	/** Whether lines are broken at the width that the widget was given last. With WrapTextAt the smaller width counts. */
+	SLATE_ATTRIBUTE(bool, AutoWrapText)
+	SLATE_ATTRIBUTE(ETextWrappingPolicy, WrappingPolicy)
 
-		/** Blank space around the text. */
-		SLATE_ATTRIBUTE(FMargin, Margin)
+	/** Blank space around the text. */
+	SLATE_ATTRIBUTE(FMargin, Margin)
 
-		/** Scales the distance of the rows; 1 is the font's own. */
-		SLATE_ATTRIBUTE(float, LineHeightPercentage)
-		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
-		SLATE_ATTRIBUTE(float, MinDesiredWidth)
+	/** Scales the distance of the rows; 1 is the font's own. */
+	SLATE_ATTRIBUTE(float, LineHeightPercentage)
+	SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+	SLATE_ATTRIBUTE(float, MinDesiredWidth)
 	SLATE_END_ARGS()
 
 	STextBlock();

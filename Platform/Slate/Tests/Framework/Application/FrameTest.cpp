@@ -49,7 +49,13 @@ TEST(Frame, ChangingOneLabelPaintsThatLabelAndWhatLiesUnderIt)
 	FSlateTestWindow Window(Labels.Make());
 
 	// The background of the window and the text.
-	EXPECT_EQ(PaintedIn(Window, [&] { Labels.Labels[1]->SetText(Text(TEXT("11111"))); FSlateApplication::Get().RequestFrame(); }), 2);
+	EXPECT_EQ(PaintedIn(Window,
+				  [&]
+				  {
+					  Labels.Labels[1]->SetText(Text(TEXT("11111")));
+					  FSlateApplication::Get().RequestFrame();
+				  }),
+		2);
 	EXPECT_EQ(FSlateApplication::Get().GetRenderer()->GetStatistics().RectanglesDamaged, 1);
 }
 
@@ -111,11 +117,11 @@ TEST(Frame, ABoundVisibilityBringsACollapsedWidgetBack)
 {
 	bool bShown = false;
 	TSharedPtr<STextBlock> Label;
-	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()
-		[SAssignNew(Label, STextBlock).Text(Text(TEXT("now you see me"))).Visibility_Lambda([&bShown]
-		{
-			return bShown ? EVisibility::Visible : EVisibility::Collapsed;
-		})]);
+	FSlateTestWindow Window(SNew(SVerticalBox) +
+		SVerticalBox::Slot()
+			.AutoHeight()[SAssignNew(Label, STextBlock)
+							  .Text(Text(TEXT("now you see me")))
+							  .Visibility_Lambda([&bShown] { return bShown ? EVisibility::Visible : EVisibility::Collapsed; })]);
 	EXPECT_FALSE(Label->IsShownInFrame());
 
 	bShown = true;
@@ -130,11 +136,13 @@ TEST(Frame, AnActiveTimerRunsOnlyWhileItsWidgetIsShown)
 	int32 Calls = 0;
 	TSharedPtr<SBox> Box;
 	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot()[SAssignNew(Box, SBox)]);
-	Box->RegisterActiveTimer(0.0f, FWidgetActiveTimerDelegate::CreateLambda([&Calls](double, float)
-	{
-		++Calls;
-		return EActiveTimerReturnType::Continue;
-	}));
+	Box->RegisterActiveTimer(0.0f,
+		FWidgetActiveTimerDelegate::CreateLambda(
+			[&Calls](double, float)
+			{
+				++Calls;
+				return EActiveTimerReturnType::Continue;
+			}));
 
 	Window.Frame();
 	Window.Frame();
@@ -158,10 +166,9 @@ TEST(Frame, AnActiveTimerEndsWhenItSaysStop)
 	int32 Calls = 0;
 	TSharedPtr<SBox> Box;
 	FSlateTestWindow Window(SAssignNew(Box, SBox));
-	Box->RegisterActiveTimer(0.1f, FWidgetActiveTimerDelegate::CreateLambda([&Calls](double, float)
-	{
-		return ++Calls == 3 ? EActiveTimerReturnType::Stop : EActiveTimerReturnType::Continue;
-	}));
+	Box->RegisterActiveTimer(0.1f,
+		FWidgetActiveTimerDelegate::CreateLambda(
+			[&Calls](double, float) { return ++Calls == 3 ? EActiveTimerReturnType::Stop : EActiveTimerReturnType::Continue; }));
 
 	Window.Wait(1.0);
 
@@ -217,10 +224,10 @@ TEST(Frame, APlacedWindowStaysInTheWorkAreaUnlessToldOtherwise)
 	const auto Place = [&WorkArea](bool bSane)
 	{
 		const TSharedRef<SWindow> Window = SNew(SWindow)
-			.AutoCenter(EAutoCenter::None)
-			.ScreenPosition(FVector2D(900.0, -50.0))
-			.ClientSize(FVector2D(300.0, 2000.0))
-			.SaneWindowPlacement(bSane);
+											   .AutoCenter(EAutoCenter::None)
+											   .ScreenPosition(FVector2D(900.0, -50.0))
+											   .ClientSize(FVector2D(300.0, 2000.0))
+											   .SaneWindowPlacement(bSane);
 		return Window->MakeDefinition(WorkArea);
 	};
 

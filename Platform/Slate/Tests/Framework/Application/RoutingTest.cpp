@@ -18,7 +18,7 @@ class SRecorder : public SBorder
 {
 public:
 	SLATE_BEGIN_ARGS(SRecorder) {}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs, const TCHAR* InName, TArray<FString>* InLog)
@@ -28,7 +28,10 @@ public:
 		Log = InLog;
 	}
 
-	virtual FReply OnPreviewMouseButtonDown(const FGeometry&, const FPointerEvent&) override { return Note(TEXT("preview"), false); }
+	virtual FReply OnPreviewMouseButtonDown(const FGeometry&, const FPointerEvent&) override
+	{
+		return Note(TEXT("preview"), false);
+	}
 	virtual FReply OnMouseButtonDown(const FGeometry&, const FPointerEvent&) override
 	{
 		return bCaptures ? Note(TEXT("down"), true).CaptureMouse(SharedThis(this)) : Note(TEXT("down"), bHandles);
@@ -42,7 +45,10 @@ public:
 		LastDelta = Event.GetCursorDelta();
 		return Note(TEXT("move"), bHandles);
 	}
-	virtual FReply OnKeyDown(const FGeometry&, const FKeyEvent& Event) override { return Note(*Event.GetKey().ToString(), bHandles); }
+	virtual FReply OnKeyDown(const FGeometry&, const FKeyEvent& Event) override
+	{
+		return Note(*Event.GetKey().ToString(), bHandles);
+	}
 	virtual void OnFocusLost(const FFocusEvent&) override { Note(TEXT("lost"), true); }
 	virtual FReply OnFocusReceived(const FGeometry&, const FFocusEvent&) override { return Note(TEXT("received"), false); }
 	virtual bool SupportsKeyboardFocus() const override { return bFocusable; }
@@ -87,7 +93,8 @@ TEST(Routing, APressIsPreviewedDownwardsAndThenBubblesUpwards)
 
 	Window.Press();
 
-	EXPECT_EQ(Nested.Log, TArray<FString>({TEXT("outer preview"), TEXT("inner preview"), TEXT("inner down"), TEXT("outer down")}));
+	EXPECT_EQ(
+		Nested.Log, TArray<FString>({TEXT("outer preview"), TEXT("inner preview"), TEXT("inner down"), TEXT("outer down")}));
 	Window.Release();
 }
 
@@ -144,27 +151,35 @@ TEST(Routing, HitTestInvisibleTakesTheChildrenOutAndSelfHitTestInvisibleOnlyItse
 	FSlateTestWindow Window(Nested.Make());
 
 	Nested.Outer->SetVisibility(EVisibility::HitTestInvisible);
-	EXPECT_EQ(&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(), &Window.GetWindow());
+	EXPECT_EQ(
+		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
+		&Window.GetWindow());
 
 	Nested.Outer->SetVisibility(EVisibility::Visible);
 	Nested.Inner->SetVisibility(EVisibility::SelfHitTestInvisible);
-	EXPECT_EQ(&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(), Nested.Outer.Get());
+	EXPECT_EQ(
+		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
+		Nested.Outer.Get());
 }
 
 TEST(Routing, WhatIsPaintedLaterIsHitFirst)
 {
 	TSharedPtr<SBorder> Below;
 	TSharedPtr<SBorder> Above;
-	FSlateTestWindow Window(SNew(SOverlay) + SOverlay::Slot()[SAssignNew(Below, SBorder)] + SOverlay::Slot()[SAssignNew(Above, SBorder)]);
+	FSlateTestWindow Window(
+		SNew(SOverlay) + SOverlay::Slot()[SAssignNew(Below, SBorder)] + SOverlay::Slot()[SAssignNew(Above, SBorder)]);
 
-	EXPECT_EQ(&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(), Above.Get());
+	EXPECT_EQ(
+		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
+		Above.Get());
 }
 
 TEST(Routing, WhenTheLayoutChangesHoverFollowsTheWidgetsWithAMoveOfZeroLength)
 {
 	FNested Nested;
 	TSharedPtr<SBox> Spacer;
-	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[SAssignNew(Spacer, SBox).HeightOverride(400.0f)] +
+	FSlateTestWindow Window(SNew(SVerticalBox) +
+		SVerticalBox::Slot().AutoHeight()[SAssignNew(Spacer, SBox).HeightOverride(400.0f)] +
 		SVerticalBox::Slot().AutoHeight()[SNew(SBox).HeightOverride(60.0f)[Nested.Make()]]);
 	Window.MoveMouse(FVector2D(320.0, 30.0));
 	EXPECT_FALSE(Nested.Inner->IsHovered());
@@ -247,10 +262,13 @@ TEST(Navigation, TabGoesRoundAllFocusableWidgetsAndShiftTabBack)
 TEST(Navigation, FocusByTheKeyboardIsSeenAndFocusByTheMouseIsNot)
 {
 	TSharedPtr<SButton> Button;
-	FSlateTestWindow Window(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(FMargin(20.0f))
-		[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Button")))]);
+	FSlateTestWindow Window(SNew(SBox)
+								.HAlign(HAlign_Left)
+								.VAlign(VAlign_Top)
+								.Padding(FMargin(20.0f))[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Button")))]);
 	FSlateApplication::Get().ClearKeyboardFocus();
-	const FVector2D Edge = Button->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(Button->GetDesiredSize().X / 2.0, 0.0);
+	const FVector2D Edge =
+		Button->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(Button->GetDesiredSize().X / 2.0, 0.0);
 	const FColor Unfocused = Window.GetPixel(Edge.X, Edge.Y);
 
 	Window.PressKey(EKeys::Tab);
@@ -267,8 +285,9 @@ TEST(Navigation, ArrowsGoToTheNearestWidgetInTheirDirection)
 	TSharedPtr<SButton> Right;
 	TSharedPtr<SButton> Below;
 	const FText Text = FText::FromString(TEXT("x"));
-	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()
-		[SNew(SHorizontalBox) + SHorizontalBox::Slot()[SAssignNew(Left, SButton).Text(Text)] + SHorizontalBox::Slot()[SAssignNew(Right, SButton).Text(Text)]] +
+	FSlateTestWindow Window(SNew(SVerticalBox) +
+		SVerticalBox::Slot().AutoHeight()[SNew(SHorizontalBox) + SHorizontalBox::Slot()[SAssignNew(Left, SButton).Text(Text)] +
+			SHorizontalBox::Slot()[SAssignNew(Right, SButton).Text(Text)]] +
 		SVerticalBox::Slot().AutoHeight()[SAssignNew(Below, SButton).Text(Text)]);
 	FSlateApplication::Get().SetKeyboardFocus(Left);
 
@@ -281,8 +300,9 @@ TEST(Navigation, ArrowsGoToTheNearestWidgetInTheirDirection)
 TEST(ToolTips, AppearWhereTheMouseRestsAndGoWithIt)
 {
 	TSharedPtr<SBorder> Border;
-	FSlateTestWindow Window(SNew(SHorizontalBox) + SHorizontalBox::Slot()
-		[SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is")))] + SHorizontalBox::Slot()[SNew(SBorder)]);
+	FSlateTestWindow Window(SNew(SHorizontalBox) +
+		SHorizontalBox::Slot()[SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is")))] +
+		SHorizontalBox::Slot()[SNew(SBorder)]);
 
 	Window.MoveMouse(Window.MiddleOf(*Border));
 	EXPECT_FALSE(FSlateApplication::Get().GetShownToolTip().IsValid());
@@ -298,9 +318,9 @@ TEST(ToolTips, StayAwayFromWhatTheUserWorksWith)
 {
 	TSharedPtr<SButton> Button;
 	TSharedPtr<SBorder> Other;
-	FSlateTestWindow Window(SNew(SHorizontalBox) + SHorizontalBox::Slot()
-		[SAssignNew(Button, SButton).ToolTipText(FText::FromString(TEXT("What this does")))] + SHorizontalBox::Slot()
-		[SAssignNew(Other, SBorder).ToolTipText(FText::FromString(TEXT("What that is")))]);
+	FSlateTestWindow Window(SNew(SHorizontalBox) +
+		SHorizontalBox::Slot()[SAssignNew(Button, SButton).ToolTipText(FText::FromString(TEXT("What this does")))] +
+		SHorizontalBox::Slot()[SAssignNew(Other, SBorder).ToolTipText(FText::FromString(TEXT("What that is")))]);
 
 	Window.Click(Button.ToSharedRef());
 	Window.Wait(2.0);
@@ -321,7 +341,8 @@ TEST(ToolTips, StayAwayFromWhatTheUserWorksWith)
 TEST(ToolTips, StandAboveTheCursorWhereThereIsNoRoomBelow)
 {
 	TSharedPtr<SBorder> Border;
-	FSlateTestWindow Window(SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is"))), FVector2D(200.0, 60.0));
+	FSlateTestWindow Window(
+		SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is"))), FVector2D(200.0, 60.0));
 	const FVector2D Cursor(190.0, 50.0);
 
 	Window.MoveMouse(Cursor);
@@ -338,8 +359,10 @@ TEST(ToolTips, StandAboveTheCursorWhereThereIsNoRoomBelow)
 TEST(Screenshot, TakesOneWidgetOutOfItsWindowAndRefusesAWidgetInNone)
 {
 	TSharedPtr<SBox> Box;
-	FSlateTestWindow Window(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)
-		[SAssignNew(Box, SBox).WidthOverride(40.0f).HeightOverride(30.0f)[SNew(SBorder)]]);
+	FSlateTestWindow Window(
+		SNew(SBox)
+			.HAlign(HAlign_Left)
+			.VAlign(VAlign_Top)[SAssignNew(Box, SBox).WidthOverride(40.0f).HeightOverride(30.0f)[SNew(SBorder)]]);
 	TArray<FColor> Pixels;
 	FIntVector Size;
 

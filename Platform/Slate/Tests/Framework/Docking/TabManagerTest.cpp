@@ -21,7 +21,10 @@ struct FTabWindow
 	TArray<FName> Registered;
 	TArray<FString> Log;
 
-	FTabWindow() : Window(MakeWell()) {}
+	FTabWindow()
+		: Window(MakeWell())
+	{
+	}
 
 	~FTabWindow()
 	{
@@ -38,22 +41,32 @@ struct FTabWindow
 
 	static TSharedRef<SWidget> MakeWell()
 	{
-		return Manager()->RestoreFrom(FTabManager::NewLayout("Test")->AddArea(
-			FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack())), nullptr).ToSharedRef();
+		return Manager()
+			->RestoreFrom(
+				FTabManager::NewLayout("Test")->AddArea(FTabManager::NewPrimaryArea()->Split(FTabManager::NewStack())), nullptr)
+			.ToSharedRef();
 	}
 
 	void Register(FName Name)
 	{
 		Registered.Add(Name);
-		Manager()->RegisterNomadTabSpawner(Name, FOnSpawnTab::CreateLambda([this, Name](const FSpawnTabArgs& Args)
-		{
-			Log.Add(TEXT("spawn ") + Name.ToString());
-			return SNew(SDockTab).TabRole(ETabRole::NomadTab).OnTabClosed_Lambda([this, Name](TSharedRef<SDockTab> Tab)
-			{
-				const TCHAR* const Live = Manager()->FindExistingLiveTab(Name).IsValid() ? TEXT(" while live") : TEXT("");
-				Log.Add(TEXT("closed ") + Name.ToString() + Live);
-			})[SNew(SBorder)];
-		})).SetDisplayName(FText::FromString(TEXT("The ") + Name.ToString()));
+		Manager()
+			->RegisterNomadTabSpawner(Name,
+				FOnSpawnTab::CreateLambda(
+					[this, Name](const FSpawnTabArgs& Args)
+					{
+						Log.Add(TEXT("spawn ") + Name.ToString());
+						return SNew(SDockTab)
+							.TabRole(ETabRole::NomadTab)
+							.OnTabClosed_Lambda(
+								[this, Name](TSharedRef<SDockTab> Tab)
+								{
+									const TCHAR* const Live =
+										Manager()->FindExistingLiveTab(Name).IsValid() ? TEXT(" while live") : TEXT("");
+									Log.Add(TEXT("closed ") + Name.ToString() + Live);
+								})[SNew(SBorder)];
+					}))
+			.SetDisplayName(FText::FromString(TEXT("The ") + Name.ToString()));
 	}
 };
 }
@@ -76,11 +89,13 @@ TEST(TabManager, IsNotLiveBeforeItsSpawnerHasReturned)
 	FTabWindow Tabs;
 	bool bLiveWithin = true;
 	Tabs.Registered.Add("Early");
-	Manager()->RegisterNomadTabSpawner("Early", FOnSpawnTab::CreateLambda([&bLiveWithin](const FSpawnTabArgs&)
-	{
-		bLiveWithin = Manager()->FindExistingLiveTab(FName("Early")).IsValid();
-		return SNew(SDockTab);
-	}));
+	Manager()->RegisterNomadTabSpawner("Early",
+		FOnSpawnTab::CreateLambda(
+			[&bLiveWithin](const FSpawnTabArgs&)
+			{
+				bLiveWithin = Manager()->FindExistingLiveTab(FName("Early")).IsValid();
+				return SNew(SDockTab);
+			}));
 
 	Manager()->TryInvokeTab(FName("Early"));
 
@@ -92,11 +107,13 @@ TEST(TabManager, ASpawnerThatAsksForItsOwnTabGetsNoneAndAWarning)
 	FTabWindow Tabs;
 	const FLogCapture Log(TEXT("LogTabManager"));
 	Tabs.Registered.Add("Self");
-	Manager()->RegisterNomadTabSpawner("Self", FOnSpawnTab::CreateLambda([](const FSpawnTabArgs&)
-	{
-		EXPECT_FALSE(Manager()->TryInvokeTab(FName("Self")).IsValid());
-		return SNew(SDockTab);
-	}));
+	Manager()->RegisterNomadTabSpawner("Self",
+		FOnSpawnTab::CreateLambda(
+			[](const FSpawnTabArgs&)
+			{
+				EXPECT_FALSE(Manager()->TryInvokeTab(FName("Self")).IsValid());
+				return SNew(SDockTab);
+			}));
 
 	EXPECT_TRUE(Manager()->TryInvokeTab(FName("Self")).IsValid());
 
@@ -150,9 +167,13 @@ TEST(TabManager, ActiveTabChangesAreToldOnceWithThePreviousAndTheNewTab)
 	Tabs.Register("B");
 	const TSharedPtr<SDockTab> A = Manager()->TryInvokeTab(FName("A"));
 	TArray<FString> Changes;
-	const auto NameOf = [](const TSharedPtr<SDockTab>& Tab) { return Tab.IsValid() ? Tab->GetLayoutIdentifier().ToString() : FString(TEXT("none")); };
-	const FDelegateHandle Handle = Manager()->OnActiveTabChanged_Subscribe(FOnActiveTabChanged::FDelegate::CreateLambda(
-		[&](TSharedPtr<SDockTab> Previous, TSharedPtr<SDockTab> New) { Changes.Add(NameOf(Previous) + TEXT(">") + NameOf(New)); }));
+	const auto NameOf = [](const TSharedPtr<SDockTab>& Tab)
+	{
+		return Tab.IsValid() ? Tab->GetLayoutIdentifier().ToString() : FString(TEXT("none"));
+	};
+	const FDelegateHandle Handle = Manager()->OnActiveTabChanged_Subscribe(
+		FOnActiveTabChanged::FDelegate::CreateLambda([&](TSharedPtr<SDockTab> Previous, TSharedPtr<SDockTab> New)
+			{ Changes.Add(NameOf(Previous) + TEXT(">") + NameOf(New)); }));
 
 	const TSharedPtr<SDockTab> B = Manager()->TryInvokeTab(FName("B"));
 	Manager()->TryInvokeTab(FName("B"));
@@ -182,8 +203,11 @@ TEST(TabManager, ALayoutOpensAnAreaInAWindowOfItsOwnSizeAndTitle)
 	FTabWindow Tabs;
 	Tabs.Register("A");
 
-	Manager()->RestoreFrom(FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
-		->SetWindow(FVector2D(50.0, 60.0), false)->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))), nullptr, true);
+	Manager()->RestoreFrom(
+		FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
+												   ->SetWindow(FVector2D(50.0, 60.0), false)
+												   ->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))),
+		nullptr, true);
 
 	const TSharedPtr<SDockTab> Tab = Manager()->FindExistingLiveTab(FName("A"));
 	ASSERT_TRUE(Tab.IsValid());
@@ -202,8 +226,10 @@ TEST(TabManager, ClosingAWindowClosesItsTabs)
 {
 	FTabWindow Tabs;
 	Tabs.Register("A");
-	Manager()->RestoreFrom(FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
-		->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))), nullptr);
+	Manager()->RestoreFrom(
+		FTabManager::NewLayout("Own")->AddArea(FTabManager::NewArea(FVector2D(300.0, 200.0))
+												   ->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab))),
+		nullptr);
 
 	Manager()->FindExistingLiveTab(FName("A"))->GetParentWindow()->RequestDestroyWindow();
 
@@ -242,7 +268,10 @@ TEST(TabManager, TabsThatHaveNoRoomSideBySideShareIt)
 	Made.Add(Manager()->TryInvokeTab(FName("S")));
 	Tabs.Window.Frame();
 
-	const auto WidthOf = [&Made](int32 Index) { return Made[Index]->GetTickSpaceGeometry().GetLocalSize().X; };
+	const auto WidthOf = [&Made](int32 Index)
+	{
+		return Made[Index]->GetTickSpaceGeometry().GetLocalSize().X;
+	};
 	EXPECT_LE(Tabs.Window.MiddleOf(*Made.Last()).X + WidthOf(12) / 2.0, 640.0);
 	EXPECT_DOUBLE_EQ(WidthOf(0), WidthOf(11));
 	EXPECT_LT(WidthOf(0), Made[0]->GetDesiredSize().X);

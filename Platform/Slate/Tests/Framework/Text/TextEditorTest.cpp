@@ -192,7 +192,10 @@ TEST_F(FTextEditorTest, ManyEditsLeaveTheSameRowsAsAFreshLayoutAndCanAllBeUndone
 {
 	const TCHAR* const Pieces[] = {TEXT("word "), TEXT("\n"), TEXT("two\nlines"), TEXT("e\u0301"), TEXT("\U0001F600"), TEXT("")};
 	std::mt19937 Random(7);
-	const auto Pick = [&Random](int32 Bound) { return static_cast<int32>(Random() % Bound); };
+	const auto Pick = [&Random](int32 Bound)
+	{
+		return static_cast<int32>(Random() % Bound);
+	};
 
 	SetText(TEXT("some words\nto begin with"));
 	Wrap(80.0f);

@@ -18,11 +18,14 @@ struct FCountingButton
 		return SNew(SBox)
 			.HAlign(HAlign_Left)
 			.VAlign(VAlign_Top)
-			.Padding(FMargin(20.0f))[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Press"))).OnClicked_Lambda([this]
-			{
-				++Clicks;
-				return FReply::Handled();
-			})];
+			.Padding(FMargin(20.0f))[SAssignNew(Button, SButton)
+										 .Text(FText::FromString(TEXT("Press")))
+										 .OnClicked_Lambda(
+											 [this]
+											 {
+												 ++Clicks;
+												 return FReply::Handled();
+											 })];
 	}
 };
 }
@@ -131,10 +134,11 @@ TEST(SButton, ContentPaddingAddsToThePaddingOfTheStyleAndMayBeNegative)
 	TSharedPtr<SButton> Wide;
 	TSharedPtr<SButton> Narrow;
 	const FText Text = FText::FromString(TEXT("Same"));
-	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)
-		[SAssignNew(Wide, SButton).Text(Text).ContentPadding(FMargin(0.0f))] +
-		SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)
-			[SAssignNew(Narrow, SButton).Text(Text).ContentPadding(FMargin(-16.0f, 0.0f))]);
+	FSlateTestWindow Window(SNew(SVerticalBox) +
+		SVerticalBox::Slot().AutoHeight().HAlign(
+			HAlign_Left)[SAssignNew(Wide, SButton).Text(Text).ContentPadding(FMargin(0.0f))] +
+		SVerticalBox::Slot().AutoHeight().HAlign(
+			HAlign_Left)[SAssignNew(Narrow, SButton).Text(Text).ContentPadding(FMargin(-16.0f, 0.0f))]);
 
 	EXPECT_DOUBLE_EQ(Wide->GetDesiredSize().X - Narrow->GetDesiredSize().X, 32.0);
 	EXPECT_GT(Narrow->GetDesiredSize().X, Narrow->GetContent()->GetDesiredSize().X);
@@ -143,8 +147,11 @@ TEST(SButton, ContentPaddingAddsToThePaddingOfTheStyleAndMayBeNegative)
 TEST(SButton, TheContentStaysWithinTheButtonHoweverNegativeThePadding)
 {
 	TSharedPtr<SButton> Button;
-	FSlateTestWindow Window(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)
-		[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Text"))).ContentPadding(FMargin(-100.0f))]);
+	FSlateTestWindow Window(
+		SNew(SBox)
+			.HAlign(HAlign_Left)
+			.VAlign(
+				VAlign_Top)[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Text"))).ContentPadding(FMargin(-100.0f))]);
 
 	EXPECT_EQ(Button->GetDesiredSize(), Button->GetContent()->GetDesiredSize());
 }
@@ -154,12 +161,15 @@ TEST(SButton, AHandlerMayTakeTheButtonOutOfItsWindow)
 	TSharedPtr<SVerticalBox> Box;
 	TSharedPtr<SButton> Button;
 	FSlateTestWindow Window(SAssignNew(Box, SVerticalBox));
-	Box->AddSlot().AutoHeight()[SAssignNew(Button, SButton).Text(FText::FromString(TEXT("Go away"))).OnClicked_Lambda([&]
-	{
-		Box->ClearChildren();
-		Button.Reset();
-		return FReply::Handled();
-	})];
+	Box->AddSlot().AutoHeight()[SAssignNew(Button, SButton)
+									.Text(FText::FromString(TEXT("Go away")))
+									.OnClicked_Lambda(
+										[&]
+										{
+											Box->ClearChildren();
+											Button.Reset();
+											return FReply::Handled();
+										})];
 	Window.Frame();
 
 	Window.Click(Button.ToSharedRef());

@@ -15,12 +15,17 @@ struct FCheckBoxWindow
 
 	TSharedRef<SWidget> Make(const TAttribute<ECheckBoxState>& State)
 	{
-		return SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(FMargin(20.0f))
-			[SAssignNew(CheckBox, SCheckBox).IsChecked(State).OnCheckStateChanged_Lambda([this](ECheckBoxState NewState)
-			{
-				Told.Add(NewState);
-				StoredWhenTold.Add(CheckBox->GetCheckedState());
-			})[SNew(STextBlock).Text(FText::FromString(TEXT("Tick")))]];
+		return SNew(SBox)
+			.HAlign(HAlign_Left)
+			.VAlign(VAlign_Top)
+			.Padding(FMargin(20.0f))[SAssignNew(CheckBox, SCheckBox)
+										 .IsChecked(State)
+										 .OnCheckStateChanged_Lambda(
+											 [this](ECheckBoxState NewState)
+											 {
+												 Told.Add(NewState);
+												 StoredWhenTold.Add(CheckBox->GetCheckedState());
+											 })[SNew(STextBlock).Text(FText::FromString(TEXT("Tick")))]];
 	}
 };
 }
@@ -98,7 +103,8 @@ TEST(SCheckBox, ShowsItsState)
 {
 	FCheckBoxWindow Box;
 	FSlateTestWindow Window(Box.Make(ECheckBoxState::Unchecked));
-	const FVector2D Mark = Box.CheckBox->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(3.0, Box.CheckBox->GetDesiredSize().Y / 2.0);
+	const FVector2D Mark =
+		Box.CheckBox->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(3.0, Box.CheckBox->GetDesiredSize().Y / 2.0);
 	const FColor Unchecked = Window.GetPixel(Mark.X, Mark.Y);
 
 	Box.CheckBox->SetIsChecked(ECheckBoxState::Checked);

@@ -23,8 +23,8 @@ struct FMultiLineEditableTextBoxTest : testing::Test
 		Arguments.Text(FText::FromString(Lines))
 			.OnTextChanged(Log.MakeOnTextChanged())
 			.OnTextCommitted(Log.MakeOnTextCommitted());
-		Box = MakeTDecl<SMultiLineEditableTextBox>(FSlateTypeText("SMultiLineEditableTextBox"),
-												   RequiredArgs::MakeRequiredArgs()) <<= Arguments;
+		Box = MakeTDecl<SMultiLineEditableTextBox>(
+			FSlateTypeText("SMultiLineEditableTextBox"), RequiredArgs::MakeRequiredArgs()) <<= Arguments;
 		// clang-format off
 		Window.Emplace(
 			SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)

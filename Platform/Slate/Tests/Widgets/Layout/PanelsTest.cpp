@@ -25,8 +25,9 @@ TEST(SBoxPanel, AutoSlotsTakeTheirDesiredSizeAndStretchSlotsShareTheRest)
 	const TSharedRef<SBox> Auto = Sized(40.0f, 100.0f);
 	const TSharedRef<SBox> One = Sized(1.0f, 1.0f);
 	const TSharedRef<SBox> Three = Sized(1.0f, 1.0f);
-	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Auto] + SVerticalBox::Slot().FillHeight(1.0f)[One] +
-		SVerticalBox::Slot().FillHeight(3.0f)[Three], FVector2D(200.0, 500.0));
+	FSlateTestWindow Window(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Auto] +
+			SVerticalBox::Slot().FillHeight(1.0f)[One] + SVerticalBox::Slot().FillHeight(3.0f)[Three],
+		FVector2D(200.0, 500.0));
 
 	EXPECT_EQ(RoomOf(Auto.Get()), FSlateRect(0.0f, 0.0f, 200.0f, 100.0f));
 	EXPECT_EQ(RoomOf(One.Get()), FSlateRect(0.0f, 100.0f, 200.0f, 200.0f));
@@ -46,8 +47,9 @@ TEST(SBoxPanel, ALaterAutoOrFillCallWins)
 TEST(SBoxPanel, PaddingAndAlignmentPlaceAChildWithinItsSlot)
 {
 	const TSharedRef<SBox> Child = Sized(40.0f, 20.0f);
-	FSlateTestWindow Window(SNew(SHorizontalBox) + SHorizontalBox::Slot()
-		.HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(FMargin(1.0f, 2.0f, 3.0f, 4.0f))[Child], FVector2D(200.0, 100.0));
+	FSlateTestWindow Window(SNew(SHorizontalBox) +
+			SHorizontalBox::Slot().HAlign(HAlign_Right).VAlign(VAlign_Bottom).Padding(FMargin(1.0f, 2.0f, 3.0f, 4.0f))[Child],
+		FVector2D(200.0, 100.0));
 
 	EXPECT_EQ(RoomOf(Child.Get()), FSlateRect(157.0f, 76.0f, 197.0f, 96.0f));
 }
@@ -56,7 +58,8 @@ TEST(SBoxPanel, CollapsedTakesNoRoomAndHiddenTakesRoom)
 {
 	const TSharedRef<SBox> First = Sized(50.0f, 50.0f);
 	const TSharedRef<SBox> Second = Sized(50.0f, 50.0f);
-	FSlateTestWindow Window(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[First] + SHorizontalBox::Slot().AutoWidth()[Second]);
+	FSlateTestWindow Window(
+		SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[First] + SHorizontalBox::Slot().AutoWidth()[Second]);
 	const auto Show = [&](EVisibility Visibility)
 	{
 		First->SetVisibility(Visibility);

@@ -164,8 +164,11 @@ TEST(SScrollBox, WhatTheKeyboardReachesScrollsIntoView)
 TEST(SScrollBox, CutsItsContentAtItsBounds)
 {
 	TSharedPtr<SBox> Content;
-	FSlateTestWindow Window(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)[SNew(SBox).WidthOverride(100.0f).HeightOverride(100.0f)
-		[SNew(SScrollBox) + SScrollBox::Slot()[SAssignNew(Content, SBox).WidthOverride(90.0f).HeightOverride(300.0f)[SNew(SBorder)]]]]);
+	FSlateTestWindow Window(
+		SNew(SBox)
+			.HAlign(HAlign_Left)
+			.VAlign(VAlign_Top)[SNew(SBox).WidthOverride(100.0f).HeightOverride(100.0f)[SNew(SScrollBox) +
+				SScrollBox::Slot()[SAssignNew(Content, SBox).WidthOverride(90.0f).HeightOverride(300.0f)[SNew(SBorder)]]]]);
 
 	EXPECT_NE(Window.GetPixel(50, 50), Window.GetPixel(50, 150));
 	EXPECT_EQ(Window.GetPixel(50, 150), Window.GetPixel(300, 300));

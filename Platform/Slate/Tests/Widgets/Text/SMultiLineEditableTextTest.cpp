@@ -149,8 +149,8 @@ TEST_F(FMultiLineEditableTextTest, TheWheelScrolls)
 TEST_F(FMultiLineEditableTextTest, TheWheelIsForOthersWhereThereIsNothingToScroll)
 {
 	Show(SMultiLineEditableText::FArguments().Text(Text(TEXT("short"))));
-	const FPointerEvent Wheel(FVector2D(5.0, 5.0), FVector2D(5.0, 5.0), TSet<FKey>(), EKeys::MouseWheelAxis, -1.0f,
-							  FModifierKeysState());
+	const FPointerEvent Wheel(
+		FVector2D(5.0, 5.0), FVector2D(5.0, 5.0), TSet<FKey>(), EKeys::MouseWheelAxis, -1.0f, FModifierKeysState());
 	EXPECT_FALSE(Field->OnMouseWheel(Field->GetPaintSpaceGeometry(), Wheel).IsEventHandled());
 }
 

@@ -17,7 +17,7 @@ void CheckMarshaller(const FJsonObject& Object)
 	if (Object.TryGetStringField(TEXT("Marshaller"), Marshaller) && !IsSameKey(Marshaller, TEXT("VelmoraRichText")))
 	{
 		UE_LOG(Velmora, Error, TEXT("Marshaller Name: %s is not support yet.  Supperted Marshalle: \"VelmoraRichText\""),
-			   *Marshaller);
+			*Marshaller);
 	}
 }
 }
