@@ -48,6 +48,19 @@ void DeleteOldestBackups(const FString& Filename)
 	}
 }
 
+/** What is no file, such as a terminal, is neither locked nor moved. */
+bool IsFile(int Handle)
+{
+	struct stat Status;
+	return fstat(Handle, &Status) == 0 && S_ISREG(Status.st_mode);
+}
+
+bool IsEmpty(int Handle)
+{
+	struct stat Status;
+	return fstat(Handle, &Status) == 0 && Status.st_size == 0;
+}
+
 /** Whether an open file still has this name: another process may have moved it away since. */
 bool HasName(int Handle, const std::string& NativePath)
 {
@@ -64,25 +77,24 @@ int OpenAlone(const FString& Filename)
 	for (;;)
 	{
 		const int Handle = open(NativePath.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
-		if (Handle == -1)
+		if (Handle == -1 || !IsFile(Handle))
 		{
-			return -1;
+			return Handle;
 		}
-		if (flock(Handle, LOCK_EX | LOCK_NB) != 0)
+		// Where files cannot be locked, each writer believes itself alone.
+		if (flock(Handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
 		{
 			close(Handle);
 			errno = EWOULDBLOCK;
 			return -1;
 		}
-		const bool bNamed = HasName(Handle, NativePath);
-		if (bNamed && IFileManager::Get().FileSize(*Filename) == 0)
+		if (HasName(Handle, NativePath))
 		{
-			return Handle;
-		}
-		if (bNamed && !IFileManager::Get().Move(*MakeBackupName(Filename), *Filename))
-		{
-			// Rather one log behind the other than none.
-			return Handle;
+			// An older log that cannot be moved is rather continued than lost.
+			if (IsEmpty(Handle) || !IFileManager::Get().Move(*MakeBackupName(Filename), *Filename))
+			{
+				return Handle;
+			}
 		}
 		close(Handle);
 	}

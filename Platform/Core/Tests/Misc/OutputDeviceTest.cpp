@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "HAL/FileManager.h"
 #include "LogCapture.h"
 #include "Misc/FileHelper.h"
@@ -160,6 +164,28 @@ TEST(OutputDeviceFile, BackupsOfOneSecondAreAllKeptUpToTheLastTen)
 		EXPECT_FALSE(Project.Read(*Backup).Contains(TEXT("run 1;"))) << "the oldest";
 	}
 	EXPECT_TRUE(Project.Read(TEXT("Run.log")).Contains(TEXT("run 12;")));
+}
+
+TEST(OutputDeviceFile, WhatIsNoFileIsWrittenToAndStays)
+{
+	const FTempProject Project;
+	const FString Pipe = Project.Path(TEXT("Run.log"));
+	ASSERT_EQ(mkfifo(TCHAR_TO_UTF8(*Pipe), 0600), 0);
+	const int Reader = open(TCHAR_TO_UTF8(*Pipe), O_RDONLY | O_NONBLOCK);
+	{
+		const FOutputDeviceFile File(*Pipe);
+		EXPECT_TRUE(File.IsOpened());
+		EXPECT_EQ(File.GetFilename(), Pipe);
+		EXPECT_EQ(FOutputDeviceFile(*Pipe).GetFilename(), Pipe) << "by two at once";
+	}
+
+	char Text[64] = {};
+	EXPECT_GT(read(Reader, Text, sizeof(Text) - 1), 0);
+	EXPECT_EQ(FString(Text).Left(13), FString(TEXT("Log file open")));
+	close(Reader);
+	struct stat Status;
+	ASSERT_EQ(stat(TCHAR_TO_UTF8(*Pipe), &Status), 0);
+	EXPECT_TRUE(S_ISFIFO(Status.st_mode));
 }
 
 TEST(OutputDeviceFile, OlderFileIsKeptAsBackup)
