@@ -97,6 +97,12 @@ def test_the_console_can_end_the_editor(shell):
     assert run.returncode == 0
 
 
+def test_commands_that_end_with_quit_need_no_script(shell):
+    run = shell.start("Trial/Trial.uproject", "-ExecCmds=py print(6 * 7); quit")
+    assert run.returncode == 0
+    assert run.stdout.startswith("42\n")
+
+
 def test_a_switch_that_means_nothing_is_named(shell):
     script = shell.script("pass")
     run = shell.start("Trial/Trial.uproject", "-unatended", "-nosplash", f"-ExecutePythonScript={script} -v --quiet")

@@ -40,9 +40,28 @@ constexpr double ShortestFrame = 1.0 / 60.0;
 /** A shell gives this plus its number for a process that a signal ended. */
 constexpr int32 SignalStatus = 128;
 
+/** The commands behind -ExecCmds, in their order. */
+TArray<FString> GetCommandsOfCommandLine()
+{
+	FString Commands;
+	FParse::Value(FCommandLine::Get(), TEXT("-ExecCmds="), Commands, false);
+	TArray<FString> Each;
+	Commands.ParseIntoArray(Each, TEXT(";"));
+	for (FString& Command : Each)
+	{
+		Command.TrimStartAndEndInline();
+	}
+	return Each;
+}
+
+bool IsQuit(const FString& Input)
+{
+	return Input == TEXT("quit") || Input == TEXT("exit") || Input == TEXT("QUIT_EDITOR");
+}
+
 void RunConsoleInput(const FString& Input)
 {
-	if (Input == TEXT("quit") || Input == TEXT("exit") || Input == TEXT("QUIT_EDITOR"))
+	if (IsQuit(Input))
 	{
 		RequestEngineExit(TEXT("The console said so."));
 		return;
@@ -135,7 +154,8 @@ bool FEngineLoop::HasUser() const
 {
 	FString Script;
 	return FSlateApplication::Get().GetPlatformApplication()->HasVisibleWindows() ||
-		FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false);
+		FParse::Value(FCommandLine::Get(), TEXT("-ExecutePythonScript="), Script, false) ||
+		GetCommandsOfCommandLine().ContainsByPredicate(&IsQuit);
 }
 
 void FEngineLoop::OpenMainWindow()
@@ -199,15 +219,9 @@ void FEngineLoop::Tick()
 
 void FEngineLoop::RunCommandLineCommands()
 {
-	FString Commands;
-	if (FParse::Value(FCommandLine::Get(), TEXT("-ExecCmds="), Commands, false))
+	for (const FString& Command : GetCommandsOfCommandLine())
 	{
-		TArray<FString> Each;
-		Commands.ParseIntoArray(Each, TEXT(";"));
-		for (const FString& Command : Each)
-		{
-			RunConsoleInput(Command.TrimStartAndEnd());
-		}
+		RunConsoleInput(Command);
 	}
 
 	FString Script;

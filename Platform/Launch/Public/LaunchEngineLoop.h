@@ -34,7 +34,7 @@ public:
 	/** Loads the modules and the plugins and opens the main window. From then on SIGINT, SIGTERM and SIGHUP ask the editor to end. */
 	void Init();
 
-	/** False for a start without a display and without a script: nobody could use the editor, and nobody would end it. */
+	/** False for a start without a display, a script and a command to quit: nobody could use the editor, and nobody would end it. */
 	bool HasUser() const;
 
 	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
