@@ -94,6 +94,7 @@ FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length,
 	Source = Text;
 	Glyphs.Reset();
 	Faces.Reset();
+	Runs.Reset();
 	ClusterWidths.Reset();
 	for (int32 Index = 0; Index < Length; ++Index)
 	{
@@ -105,7 +106,7 @@ FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length,
 		ShapeAnyText(Font);
 	}
 	return MakeShared<FShapedGlyphSequence>(FString(Length, Text), TArray<FShapedGlyphEntry>(Glyphs),
-		TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), Font);
+		TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), TArray<FShapedTextRun>(Runs), Font);
 }
 
 bool FSlateTextShaper::Encode(const TCHAR* Text, int32 Length)
@@ -160,6 +161,15 @@ void FSlateTextShaper::ShapeAnyText(const FSlateSizedFont& Font)
 	{
 		const PangoGlyphItem& Run = *static_cast<const PangoGlyphItem*>(Node->data);
 		AddRun(*Run.glyphs, Run.item->offset, GetFace(Run.item->analysis.font, Font));
+		const int32 First = CharacterOfByte[Run.item->offset];
+		const int32 ByteBehind = Run.item->offset + Run.item->length;
+		const int32 Behind = ByteBehind < CharacterOfByte.Num() ? CharacterOfByte[ByteBehind] : ClusterWidths.Num();
+		// Odd levels of embedding run from right to left (Unicode Standard Annex 9).
+		Runs.Add({First, Behind - First, (Run.item->analysis.level & 1) != 0});
+	}
+	if (!Runs.ContainsByPredicate([](const FShapedTextRun& Run) { return Run.bRightToLeft; }))
+	{
+		Runs.Reset();
 	}
 	g_object_unref(Layout);
 }

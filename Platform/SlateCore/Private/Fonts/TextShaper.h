@@ -52,4 +52,5 @@ private:
 	TArray<float> ClusterWidths;
 	TArray<FShapedGlyphEntry> Glyphs;
 	TArray<TSharedRef<FSlateFontFace>> Faces;
+	TArray<FShapedTextRun> Runs;
 };

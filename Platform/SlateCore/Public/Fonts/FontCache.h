@@ -19,12 +19,20 @@ struct FShapedGlyphEntry
 	float YOffset = 0.0f;
 };
 
+/** Characters of one direction that lie side by side. */
+struct FShapedTextRun
+{
+	int32 FirstCharacter = 0;
+	int32 NumCharacters = 0;
+	bool bRightToLeft = false;
+};
+
 /** A text as glyphs of certain fonts at a certain size. Indices are UTF-16 offsets from the beginning of the text. */
 class SLATECORE_API FShapedGlyphSequence
 {
 public:
 	FShapedGlyphSequence(FString&& InText, TArray<FShapedGlyphEntry>&& InGlyphs, TArray<TSharedRef<FSlateFontFace>>&& InFaces,
-		TArray<float>&& InOffsets, const FSlateSizedFont& InFont);
+		TArray<float>&& InOffsets, TArray<FShapedTextRun>&& InRuns, const FSlateSizedFont& InFont);
 	~FShapedGlyphSequence();
 
 	const FString& GetText() const { return Text; }
@@ -40,6 +48,18 @@ public:
 	/** The character that lies HorizontalOffset pixels behind StartIndex in reading order; the text's length when none does. */
 	int32 GetCharacterAtOffset(int32 StartIndex, float HorizontalOffset) const;
 
+	/** Whether a part of the text runs from right to left, so that places in the row are not those in reading order. */
+	bool HasRightToLeft() const { return Runs.Num() > 0; }
+
+	/** Where the caret stands in front of a character, or behind the last one, in pixels from the left end of the row. */
+	float GetCaretOffset(int32 Index) const;
+
+	/** The index whose caret is nearest to a place in the row. */
+	int32 GetCaretAtOffset(float HorizontalOffset) const;
+
+	/** The parts of the row that the characters [StartIndex, EndIndex) take up, from left to right; X is where one begins, Y its end. */
+	TArray<FVector2D> GetSpans(int32 StartIndex, int32 EndIndex) const;
+
 	/** Height of a line in whole pixels, that of the text's font whatever fonts stand in for missing characters. */
 	int32 GetMaxTextHeight() const { return Ascent + Descent; }
 
@@ -51,11 +71,17 @@ public:
 	const FLinearColor& GetOutlineColor() const { return OutlineColor; }
 
 private:
+	/** Where a character of a run begins in reading order, in pixels from the left end of the row; RunLeft is the run's left end. */
+	float GetPlaceInRun(const FShapedTextRun& Run, float RunLeft, int32 Index) const;
+	float GetWidthOfRun(const FShapedTextRun& Run) const;
+
 	FString Text;
 	TArray<FShapedGlyphEntry> Glyphs;
 	TArray<TSharedRef<FSlateFontFace>> Faces;
 	/** Width of everything before a character in reading order; one more than there are characters. */
 	TArray<float> Offsets;
+	/** From left to right. Empty where all of the text runs from left to right. */
+	TArray<FShapedTextRun> Runs;
 	FLinearColor OutlineColor;
 	int32 OutlineWidth;
 	int32 Ascent;

@@ -118,6 +118,32 @@ TEST(TextShaping, RightToLeftTextIsInVisualOrderWithWidthsInReadingOrder)
 	EXPECT_FLOAT_EQ(Shaped->GetMeasuredWidth(0, 1), Wide->GetMeasuredWidth());
 }
 
+TEST(TextShaping, CaretAndSpansFollowTheDirectionOfEachRun)
+{
+	const FSlateFontCache Cache;
+	// Two Latin letters, a blank, three Hebrew letters.
+	const FShapedGlyphSequenceRef Mixed = Cache.ShapeBidirectionalText(TEXT("ab \u05D0\u05D1\u05D2"), Font, 1.0f);
+	const float Latin = Mixed->GetMeasuredWidth(0, 3);
+	const float Whole = Mixed->GetMeasuredWidth();
+	ASSERT_TRUE(Mixed->HasRightToLeft());
+
+	EXPECT_FLOAT_EQ(Mixed->GetCaretOffset(1), Mixed->GetMeasuredWidth(0, 1));
+	EXPECT_FLOAT_EQ(Mixed->GetCaretOffset(3), Whole) << "in front of the first Hebrew letter is at its right";
+	EXPECT_FLOAT_EQ(Mixed->GetCaretOffset(4), Whole - Mixed->GetMeasuredWidth(3, 4));
+	EXPECT_FLOAT_EQ(Mixed->GetCaretOffset(6), Latin) << "behind the last one is at its left";
+	EXPECT_EQ(Mixed->GetCaretAtOffset(0.0f), 0);
+	EXPECT_EQ(Mixed->GetCaretAtOffset(Whole), 3);
+	EXPECT_EQ(Mixed->GetCaretAtOffset(Whole - Mixed->GetMeasuredWidth(3, 4)), 4);
+
+	// "b", the blank and the first Hebrew letter, which stands at the far right.
+	const TArray<FVector2D> Spans = Mixed->GetSpans(1, 4);
+	ASSERT_EQ(Spans.Num(), 2);
+	EXPECT_FLOAT_EQ(Spans[0].X, Mixed->GetMeasuredWidth(0, 1));
+	EXPECT_FLOAT_EQ(Spans[0].Y, Latin);
+	EXPECT_FLOAT_EQ(Spans[1].X, Whole - Mixed->GetMeasuredWidth(3, 4));
+	EXPECT_FLOAT_EQ(Spans[1].Y, Whole);
+}
+
 TEST(TextShaping, ArabicLettersJoin)
 {
 	const FSlateFontCache Cache;

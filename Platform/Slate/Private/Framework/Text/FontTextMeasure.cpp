@@ -5,10 +5,15 @@
 #include "Framework/Text/TextRows.h"
 #include "Rendering/SlateRenderer.h"
 
+#include <algorithm>
+
 namespace
 {
 /** Sizes go from pixels to Slate units and back; what was a whole pixel must not lose one on the way. */
 constexpr float GPixelTolerance = 0.01f;
+
+/** No character before this one, the first of the Hebrew block, is written from right to left. */
+constexpr TCHAR GFirstRightToLeft = 0x0590;
 
 TSharedRef<FSlateFontMeasure> GetService()
 {
@@ -39,9 +44,45 @@ int32 FFontTextMeasure::GetNumFitting(const FString& Row, float Width) const
 	return Service->FindLastWholeCharacterIndexBeforeOffset(Row, Font, ToPixels(Width), Scale) + 1;
 }
 
+FShapedGlyphSequencePtr FFontTextMeasure::ShapeIfRightToLeft(const FString& Row) const
+{
+	const bool bMayBe = std::any_of(Row.begin(), Row.end(), [](TCHAR Character) { return Character >= GFirstRightToLeft; });
+	if (!bMayBe)
+	{
+		return nullptr;
+	}
+	const FShapedGlyphSequenceRef Shaped =
+		FSlateApplicationBase::Get().GetRenderer()->GetFontCache()->ShapeBidirectionalText(Row, Font, Scale);
+	return Shaped->HasRightToLeft() ? FShapedGlyphSequencePtr(Shaped) : nullptr;
+}
+
 int32 FFontTextMeasure::GetNearestIndex(const FString& Row, float Distance) const
 {
-	return Service->FindCharacterIndexAtOffset(Row, Font, ToPixels(Distance), Scale);
+	const FShapedGlyphSequencePtr Shaped = ShapeIfRightToLeft(Row);
+	return Shaped.IsValid() ? Shaped->GetCaretAtOffset(Distance * Scale)
+							: Service->FindCharacterIndexAtOffset(Row, Font, ToPixels(Distance), Scale);
+}
+
+float FFontTextMeasure::GetCaretDistance(const FString& Row, int32 Index) const
+{
+	const FShapedGlyphSequencePtr Shaped = ShapeIfRightToLeft(Row);
+	return Shaped.IsValid() ? FMath::RoundToFloat(Shaped->GetCaretOffset(Index)) / Scale
+							: ITextMeasure::GetCaretDistance(Row, Index);
+}
+
+TArray<FVector2D> FFontTextMeasure::GetSpans(const FString& Row, int32 Begin, int32 End) const
+{
+	const FShapedGlyphSequencePtr Shaped = ShapeIfRightToLeft(Row);
+	if (!Shaped.IsValid())
+	{
+		return ITextMeasure::GetSpans(Row, Begin, End);
+	}
+	TArray<FVector2D> Spans = Shaped->GetSpans(Begin, End);
+	for (FVector2D& Span : Spans)
+	{
+		Span = FVector2D(FMath::RoundToFloat(Span.X), FMath::RoundToFloat(Span.Y)) / Scale;
+	}
+	return Spans;
 }
 
 FVector2D MeasureSingleLine(const FString& Text, const FSlateFontInfo& Font, float Scale)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fonts/FontCache.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Framework/Text/TextMeasure.h"
 #include "Templates/SharedPointer.h"
@@ -18,8 +19,12 @@ public:
 	virtual float GetWidth(const FString& Row, int32 NumCharacters) const override;
 	virtual int32 GetNumFitting(const FString& Row, float Width) const override;
 	virtual int32 GetNearestIndex(const FString& Row, float Distance) const override;
+	virtual float GetCaretDistance(const FString& Row, int32 Index) const override;
+	virtual TArray<FVector2D> GetSpans(const FString& Row, int32 Begin, int32 End) const override;
 
 private:
+	/** The row as glyphs if a part of it runs from right to left. Other rows need no more than the widths of their beginnings. */
+	FShapedGlyphSequencePtr ShapeIfRightToLeft(const FString& Row) const;
 	int32 ToPixels(float Distance) const;
 
 	TSharedRef<FSlateFontMeasure> Service;

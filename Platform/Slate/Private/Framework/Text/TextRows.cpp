@@ -268,7 +268,13 @@ int32 FTextRows::GetRowIndexAtHeight(float Height) const
 
 float FTextRows::GetDistanceInRow(const FTextRow& Row, int32 Offset) const
 {
-	return Measure->GetWidth(Row.Text, FMath::Clamp(Offset - Row.Range.BeginIndex, 0, Row.Text.Len()));
+	return Measure->GetCaretDistance(Row.Text, FMath::Clamp(Offset - Row.Range.BeginIndex, 0, Row.Text.Len()));
+}
+
+TArray<FVector2D> FTextRows::GetSpansInRow(const FTextRow& Row, int32 BeginOffset, int32 EndOffset) const
+{
+	return Measure->GetSpans(Row.Text, FMath::Clamp(BeginOffset - Row.Range.BeginIndex, 0, Row.Text.Len()),
+		FMath::Clamp(EndOffset - Row.Range.BeginIndex, 0, Row.Text.Len()));
 }
 
 FVector2D FTextRows::GetCaretPosition(const FTextCaret& Caret) const

@@ -98,6 +98,9 @@ public:
 	FVector2D GetCaretPosition(const FTextCaret& Caret) const;
 	float GetDistanceInRow(const FTextRow& Row, int32 Offset) const;
 
+	/** The parts of the row that the characters between two offsets take up, from left to right: X is where one begins, Y its end. */
+	TArray<FVector2D> GetSpansInRow(const FTextRow& Row, int32 BeginOffset, int32 EndOffset) const;
+
 	/** The caret place that is nearest to a point. */
 	FTextCaret GetCaretAt(const FVector2D& Position) const;
 	FTextCaret GetCaretInRow(int32 RowIndex, float Distance) const;

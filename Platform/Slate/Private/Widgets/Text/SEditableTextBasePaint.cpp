@@ -54,16 +54,25 @@ struct SEditableTextBase::FPainter
 			return;
 		}
 
-		const float Left = Begin < RowBegin ? 0.0f : Rows.GetDistanceInRow(Row, Begin.GetOffset());
-		float Right = Rows.GetDistanceInRow(Row, RowEnd < End ? Row.Range.EndIndex : End.GetOffset());
+		TArray<FVector2D> Spans = Rows.GetSpansInRow(Row, Begin < RowBegin ? Row.Range.BeginIndex : Begin.GetOffset(),
+			RowEnd < End ? Row.Range.EndIndex : End.GetOffset());
 		if (RowEnd < End && !Row.bWrapped)
 		{
-			Right += Rows.GetRowHeight() * GSelectedLineEnd;
+			const double LineEnd = Rows.GetRowHeight() * GSelectedLineEnd;
+			const double RowWidth = Row.Width;
+			if (Spans.Num() == 0 || Spans.Last().Y < RowWidth)
+			{
+				Spans.Add(FVector2D(RowWidth, RowWidth));
+			}
+			Spans.Last().Y += LineEnd;
 		}
-		if (Left < Right)
+		for (const FVector2D& Span : Spans)
 		{
-			PaintBox(Layer, *Field.Look.SelectionImage, FVector2D(Row.Left + Left, Row.Top),
-				FVector2D(Right - Left, Rows.GetRowHeight()));
+			if (Span.X < Span.Y)
+			{
+				PaintBox(Layer, *Field.Look.SelectionImage, FVector2D(Row.Left + Span.X, Row.Top),
+					FVector2D(Span.Y - Span.X, Rows.GetRowHeight()));
+			}
 		}
 	}
 };

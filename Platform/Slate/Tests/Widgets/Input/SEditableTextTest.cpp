@@ -381,6 +381,37 @@ TEST_F(FEditableTextTest, AClickPutsTheCaretBetweenTheNearestCharacters)
 	EXPECT_EQ(Shown(), TEXT("abc|def"));
 }
 
+TEST_F(FEditableTextTest, AClickInTextFromRightToLeftPutsTheCaretWhereItIsSeen)
+{
+	Show(SEditableText::FArguments().Text(Text(TEXT("\u05D0\u05D1\u05D2"))));
+	Window->ClickAt(PlaceAt(WidthOf(3)));
+	Window->TypeText(TEXT("\u05D3"));
+	EXPECT_EQ(Shown(), FString(TEXT("\u05D3\u05D0\u05D1\u05D2"))) << "the text begins at its right end";
+
+	Window->ClickAt(PlaceAt(0.0f));
+	Window->TypeText(TEXT("\u05D4"));
+	EXPECT_EQ(Shown(), FString(TEXT("\u05D3\u05D0\u05D1\u05D2\u05D4")));
+}
+
+TEST_F(FEditableTextTest, TheSelectionOfTextFromRightToLeftLiesUnderItsLetters)
+{
+	Show(SEditableText::FArguments().Text(Text(TEXT("\u05D0\u05D1\u05D2"))));
+	const FVector2D Begin = PlaceAt(WidthOf(3) - 4.0f);
+	const FVector2D End = PlaceAt(1.0f);
+	const auto TopPixel = [this](const FVector2D& Place)
+	{
+		return Window->GetPixel(Place.X, Place.Y - 6);
+	};
+	const FColor Plain = TopPixel(End);
+
+	Focus();
+	Press(EKeys::Home);
+	Press(EKeys::Right, GShift);
+
+	EXPECT_EQ(TopPixel(End), Plain);
+	EXPECT_NE(TopPixel(Begin), Plain);
+}
+
 TEST_F(FEditableTextTest, AClickFindsItsPlaceAtAnyScale)
 {
 	Show(SEditableText::FArguments().Text(Text(TEXT("abcdef"))));
