@@ -20,7 +20,7 @@ public:
 	/** Takes the tool tip away until the mouse goes to something else: the user has begun to work. */
 	void Dismiss();
 
-	/** Takes the tool tip away; it comes again while the mouse rests. */
+	/** Takes the tool tip away; the next move of the mouse may bring it again. */
 	void Close();
 
 	TSharedPtr<IToolTip> GetShown() const { return bShown ? Wanted : nullptr; }

@@ -35,6 +35,12 @@ int32 GetLenWithoutBlanks(const FString& Row)
 {
 	return TrimBlanksFromEnd(Row, 0, Row.Len());
 }
+
+/** An offset in a line as an index into the row's text, or the nearest one that the row has. */
+int32 GetIndexInRow(const FTextRow& Row, int32 Offset)
+{
+	return FMath::Clamp(Offset - Row.Range.BeginIndex, 0, Row.Text.Len());
+}
 }
 
 bool FTextRowFormat::operator==(const FTextRowFormat& Other) const
@@ -266,21 +272,15 @@ int32 FTextRows::GetRowIndexAtHeight(float Height) const
 	return FMath::FloorToInt(FMath::Clamp<float>(Height / GetRowHeight(), 0.0f, NumRows() - 1));
 }
 
-float FTextRows::GetDistanceInRow(const FTextRow& Row, int32 Offset) const
-{
-	return Measure->GetCaretDistance(Row.Text, FMath::Clamp(Offset - Row.Range.BeginIndex, 0, Row.Text.Len()));
-}
-
 TArray<FVector2D> FTextRows::GetSpansInRow(const FTextRow& Row, int32 BeginOffset, int32 EndOffset) const
 {
-	return Measure->GetSpans(Row.Text, FMath::Clamp(BeginOffset - Row.Range.BeginIndex, 0, Row.Text.Len()),
-		FMath::Clamp(EndOffset - Row.Range.BeginIndex, 0, Row.Text.Len()));
+	return Measure->GetSpans(Row.Text, GetIndexInRow(Row, BeginOffset), GetIndexInRow(Row, EndOffset));
 }
 
 FVector2D FTextRows::GetCaretPosition(const FTextCaret& Caret) const
 {
 	const FTextRow Row = GetRow(GetRowIndex(Caret));
-	const float Distance = GetDistanceInRow(Row, Caret.Location.GetOffset());
+	const float Distance = Measure->GetCaretDistance(Row.Text, GetIndexInRow(Row, Caret.Location.GetOffset()));
 	if (Format.WrapWidth > 0.0f)
 	{
 		// Blanks at a soft break stick out; the caret among them stays in sight.

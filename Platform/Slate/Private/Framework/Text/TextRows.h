@@ -96,7 +96,6 @@ public:
 
 	/** The upper end of the caret. */
 	FVector2D GetCaretPosition(const FTextCaret& Caret) const;
-	float GetDistanceInRow(const FTextRow& Row, int32 Offset) const;
 
 	/** The parts of the row that the characters between two offsets take up, from left to right: X is where one begins, Y its end. */
 	TArray<FVector2D> GetSpansInRow(const FTextRow& Row, int32 BeginOffset, int32 EndOffset) const;
