@@ -1,6 +1,6 @@
 #include "Dom/JsonObject.h"
 #include "FuzzEnvironment.h"
-#include "Velmora/ToolDescription.h"
+#include "Velmora/DescriptionText.h"
 
 // A description of any bytes is read or refused; a neighbour and itself are there to be included.
 extern "C" int LLVMFuzzerInitialize(int*, char***)

@@ -10,14 +10,6 @@ namespace
 {
 using FLines = TArray<FString>;
 
-FString TextOf(const FString& Path)
-{
-	FDescriptionText Text;
-	FString Error;
-	EXPECT_TRUE(ReadDescriptionText(Path, Text, Error));
-	return Text.Text;
-}
-
 FString FieldOf(const TSharedPtr<FJsonObject>& Object, const TCHAR* Key)
 {
 	FString Value = TEXT("(none)");
@@ -93,53 +85,6 @@ TEST(ToolDescription, FileThatIncludesItselfIsRefusedInsideAndStillParsed)
 	EXPECT_TRUE(Log.Lines().Contains(TEXT("PythonKX: Log: Import External Json Path: Tool.json")));
 }
 
-TEST(ToolDescription, FileThatIncludesItselfUnderAnotherCaseIsRefusedToo)
-{
-	const FTempProject Folder;
-	const FString Path = Folder.Write(TEXT("Tool.json"), "{}\n\"ExternalJson\": \"TOOL.json\"\n");
-	const FLogCapture Log(TEXT("PythonKX"));
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("{}\n")));
-
-	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile TOOL.json has already import in parents, recursively import")}));
-}
-
-TEST(ToolDescription, FileThatIncludesItselfBehindANullCharacterIsRefusedToo)
-{
-	const FTempProject Folder;
-	const TCHAR Text[] = TEXT("{}\n\"ExternalJson\": \"Tool.json\0/Part/c\"\n");
-	const FString Path = Folder.Write(TEXT("Tool.json"), FString(UE_ARRAY_COUNT(Text) - 1, Text));
-	const FLogCapture Log(TEXT("PythonKX"));
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("{}\n")));
-
-	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile Tool.json has already import in parents, recursively import")}));
-}
-
-TEST(ToolDescription, FileIncludedTwiceSideBySideStandsTwice)
-{
-	const FTempProject Folder;
-	Folder.Write(TEXT("B.json"), "b\n");
-	const FString Path = Folder.Write(TEXT("A.json"), "\"ExternalJson\": \"B.json\"\na\n\"ExternalJson\": \"B.json\"\n");
-	const FLogCapture Log(TEXT("PythonKX"));
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("b\na\nb\n")));
-
-	EXPECT_EQ(Log.Warnings(), FLines());
-}
-
-TEST(ToolDescription, CycleOfTwoFilesStopsAtTheSecondTurn)
-{
-	const FTempProject Folder;
-	Folder.Write(TEXT("B.json"), "b\n\"ExternalJson\": \"A.json\"\n");
-	const FString Path = Folder.Write(TEXT("A.json"), "a\n\"ExternalJson\": \"B.json\"\n");
-	const FLogCapture Log(TEXT("PythonKX"));
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("a\nb\n")));
-
-	EXPECT_EQ(Log.Warnings(), FLines({TEXT("JsonFile A.json has already import in parents, recursively import")}));
-}
-
 TEST(ToolDescription, FileIsReadAnewAtEachCall)
 {
 	const FTempProject Folder;
@@ -150,50 +95,6 @@ TEST(ToolDescription, FileIsReadAnewAtEachCall)
 	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("A")), FString(TEXT("1")));
 	Folder.Write(TEXT("Part.json"), R"("A": "2")");
 	EXPECT_EQ(FieldOf(LoadJsonFile(Path, Error), TEXT("A")), FString(TEXT("2")));
-}
-
-TEST(ToolDescription, AbsoluteInclusionIsUsedAsItStands)
-{
-	const FTempProject Folder;
-	const FTempProject Elsewhere;
-	const FString Included = Elsewhere.Write(TEXT("Part.json"), "part\n");
-	const FString Line = TEXT("\"ExternalJson\": \"") + Included + TEXT("\"");
-	const FString Path = Folder.Write(TEXT("Tool.json"), Line);
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("part\n")));
-}
-
-TEST(ToolDescription, NestedInclusionResolvesAgainstTheFileItStandsIn)
-{
-	const FTempProject Folder;
-	Folder.Write(TEXT("Shared/Leaf.json"), "leaf\n");
-	Folder.Write(TEXT("Tools/Parts/Header.json"), "\"ExternalJson\": \"../../Shared/Leaf.json\"\n");
-	const FString Path = Folder.Write(TEXT("Tools/Tool.json"), "\"ExternalJson\": \"Parts/Header.json\",\n");
-	FDescriptionText Text;
-	FString Error;
-
-	ASSERT_TRUE(ReadDescriptionText(Path, Text, Error));
-
-	EXPECT_EQ(Text.Text, FString(TEXT("leaf\n")));
-	EXPECT_EQ(Text.DescribePlace(1), Folder.Path(TEXT("Shared/Leaf.json")) + TEXT(":1"));
-}
-
-TEST(ToolDescription, CommentedOutInclusionIsIncludedAllTheSame)
-{
-	const FTempProject Folder;
-	Folder.Write(TEXT("x.json"), "x\n");
-	const FString Path = Folder.Write(TEXT("Tool.json"), "  // \"ExternalJson\": \"x.json\"\n");
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("x\n")));
-}
-
-TEST(ToolDescription, RestOfAnInclusionLineIsLost)
-{
-	const FTempProject Folder;
-	Folder.Write(TEXT("x.json"), "x");
-	const FString Path = Folder.Write(TEXT("Tool.json"), "\"A\": 1, \"ExternalJson\": \"x.json\", \"B\": 2 // why\nnext");
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("x\nnext\n")));
 }
 
 TEST(ToolDescription, MissingIncludedFileLosesOnlyItsText)
@@ -217,27 +118,6 @@ TEST(ToolDescription, InclusionWithoutANameIncludesNothing)
 	EXPECT_TRUE(LoadJsonFile(Path, Error).IsValid());
 }
 
-TEST(ToolDescription, DoubleSlashInsideAStringCutsTheLineAndBreaksTheParse)
-{
-	const FTempProject Folder;
-	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\"A\": \"b//c\",\n\"B\": 1 }");
-	const FLogCapture Log(TEXT("PythonKX"));
-	FString Error;
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("{\n\"A\": \"b\n\"B\": 1 }\n")));
-	EXPECT_FALSE(LoadJsonFile(Path, Error).IsValid());
-
-	EXPECT_EQ(Log.Warnings(), FLines({TEXT("Deserialize File ") + Path + TEXT(" failed, check: '\\' ")}));
-}
-
-TEST(ToolDescription, CommentLineLeavesNotEvenALineEnd)
-{
-	const FTempProject Folder;
-	const FString Path = Folder.Write(TEXT("Tool.json"), "{\n\t// nothing\n} // end\n");
-
-	EXPECT_EQ(TextOf(Path), FString(TEXT("{\n} \n")));
-}
-
 TEST(ToolDescription, SyntaxErrorIsPlacedInTheFileAndLineWhereItWasWritten)
 {
 	const FTempProject Folder;
@@ -250,34 +130,6 @@ TEST(ToolDescription, SyntaxErrorIsPlacedInTheFileAndLineWhereItWasWritten)
 
 	const FString Place = TEXT("PythonKX: Display: ") + Part + TEXT(":3: ");
 	EXPECT_TRUE(Log.Lines().ContainsByPredicate([&Place](const FString& Line) { return Line.StartsWith(Place); }));
-}
-
-TEST(ToolDescription, PlacesFollowTheSplicedText)
-{
-	const FTempProject Folder;
-	const FString Part = Folder.Write(TEXT("Part.json"), "x\n// y\nz\n");
-	const FString Path = Folder.Write(TEXT("Tool.json"), "// top\na\n\"ExternalJson\": \"Part.json\"\nb\n");
-	FDescriptionText Text;
-	FString Error;
-
-	ASSERT_TRUE(ReadDescriptionText(Path, Text, Error));
-
-	EXPECT_EQ(Text.Text, FString(TEXT("a\nx\nz\nb\n")));
-	EXPECT_EQ(Text.DescribePlace(1), Path + TEXT(":2"));
-	EXPECT_EQ(Text.DescribePlace(2), Part + TEXT(":1"));
-	EXPECT_EQ(Text.DescribePlace(3), Part + TEXT(":3"));
-	EXPECT_EQ(Text.DescribePlace(4), Path + TEXT(":4"));
-	EXPECT_EQ(Text.DescribePlace(99), Path + TEXT(":4"));
-}
-
-TEST(ToolDescription, ExternalTextIsGivenWithoutItsOwnCycle)
-{
-	const FTempProject Folder;
-	const FString Tool = Folder.Path(TEXT("Tool.json"));
-	Folder.Write(TEXT("Part.json"), "part // comment\n");
-
-	EXPECT_EQ(LoadExternalJson(TEXT("Part.json"), {Tool}), FString(TEXT("part \n")));
-	EXPECT_EQ(LoadExternalJson(TEXT("Part.json"), {Tool, Folder.Path(TEXT("Part.json"))}), FString());
 }
 
 TEST(ToolDescription, NonAsciiTextSurvives)

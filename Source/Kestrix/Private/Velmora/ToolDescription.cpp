@@ -2,141 +2,13 @@
 
 #include "Dom/JsonObject.h"
 #include "KestrixLog.h"
-#include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
-#include "Misc/Paths.h"
 #include "Serialization/JsonReader.h"
 #include "Serialization/JsonSerializer.h"
-
-FString FDescriptionText::DescribePlace(int32 LineOfText) const
-{
-	if (Places.Num() == 0)
-	{
-		return Files.Num() > 0 ? Files[0] : FString();
-	}
-	const FDescriptionPlace& Place = Places[FMath::Clamp(LineOfText - 1, 0, Places.Num() - 1)];
-	return FString::Printf(TEXT("%s:%d"), *Files[Place.File], Place.Line);
-}
+#include "Velmora/DescriptionText.h"
 
 namespace
 {
-const FString CommentMark = TEXT("//");
-const FString InclusionMark = TEXT("\"ExternalJson\":");
-
-/**
- * The text between the first two double quotes behind the inclusion mark, or what there is of it. A null character ends it: the file
- * system reads no further, and two names of one file must not look different.
- */
-FString ReadIncludedName(const FString& Line, int32 MarkPosition)
-{
-	const FString Rest = Line.Mid(MarkPosition + InclusionMark.Len());
-	int32 First = INDEX_NONE;
-	if (!Rest.FindChar(TEXT('"'), First))
-	{
-		return FString();
-	}
-	const FString Name = Rest.Mid(First + 1);
-	int32 Second = INDEX_NONE;
-	return FString(*(Name.FindChar(TEXT('"'), Second) ? Name.Left(Second) : Name));
-}
-
-/** Appends files to a text, with the files around the current one at hand. */
-class FLineSplicer
-{
-public:
-	FLineSplicer(FDescriptionText& InText, TArray<FString> InAncestors)
-		: Text(InText)
-		, Ancestors(MoveTemp(InAncestors))
-	{
-	}
-
-	void AppendLines(const FString& File, const TArray<FString>& Lines)
-	{
-		// A tool is read several times when it opens: the text grows in one step.
-		int32 Length = Text.Text.Len();
-		for (const FString& Line : Lines)
-		{
-			Length += Line.Len() + 1;
-		}
-		Text.Text.Reserve(Length);
-		Text.Places.Reserve(Text.Places.Num() + Lines.Num());
-
-		const int32 FileIndex = Text.Files.Add(File);
-		for (int32 Index = 0; Index < Lines.Num(); ++Index)
-		{
-			AppendLine(Lines[Index], {FileIndex, Index + 1});
-		}
-	}
-
-	void Include(const FString& Path)
-	{
-		const FString Resolved = Resolve(Path);
-		if (Ancestors.Contains(Resolved))
-		{
-			UE_LOG(PythonKX, Warning, TEXT("JsonFile %s has already import in parents, recursively import"), *Path);
-			return;
-		}
-		if (!FPaths::FileExists(Resolved))
-		{
-			UE_LOG(PythonKX, Warning, TEXT("Can't "));
-		}
-		TArray<FString> Lines;
-		if (!FFileHelper::LoadFileToStringArray(Lines, *Resolved))
-		{
-			UE_LOG(PythonKX, Warning, TEXT("File: %s not exists."), *Resolved);
-			return;
-		}
-
-		Ancestors.Push(Resolved);
-		AppendLines(Resolved, Lines);
-		Ancestors.Pop();
-	}
-
-private:
-	/** A commented-out inclusion includes its file all the same, so the mark is looked for in front of the comment test. */
-	void AppendLine(const FString& Line, const FDescriptionPlace& Place)
-	{
-		const int32 MarkPosition = Line.Find(InclusionMark);
-		if (MarkPosition != INDEX_NONE)
-		{
-			const FString Name = ReadIncludedName(Line, MarkPosition);
-			UE_LOG(PythonKX, Log, TEXT("Import External Json Path: %s"), *Name);
-			Include(Name);
-			return;
-		}
-		const int32 CommentPosition = Line.Find(CommentMark, ESearchCase::CaseSensitive);
-		if (CommentPosition == INDEX_NONE)
-		{
-			Text.Text += Line;
-		}
-		else
-		{
-			const FString Kept = Line.Left(CommentPosition);
-			if (Kept.TrimStart().IsEmpty())
-			{
-				return;
-			}
-			Text.Text += Kept;
-		}
-		Text.Text += TEXT('\n');
-		Text.Places.Add(Place);
-	}
-
-	FString Resolve(const FString& Path) const
-	{
-		if (!FPaths::IsRelative(Path) || Ancestors.Num() == 0)
-		{
-			return Path;
-		}
-		FString Resolved = FPaths::GetPath(Ancestors.Last()) / Path;
-		FPaths::CollapseRelativeDirectories(Resolved);
-		return Resolved;
-	}
-
-	FDescriptionText& Text;
-	TArray<FString> Ancestors;
-};
-
 TSharedPtr<FJsonObject> ParseDescription(const FString& FilePath, const FDescriptionText& Description, FString& OutError)
 {
 	const TSharedRef<TJsonReader<>> Reader = TJsonReaderFactory<>::Create(Description.Text);
@@ -193,28 +65,6 @@ FVector2D ReadTwoNumbers(const FJsonObject& Object, const FString& Key)
 }
 }
 
-bool ReadDescriptionText(const FString& FilePath, FDescriptionText& OutText, FString& OutError)
-{
-	OutText = FDescriptionText();
-
-	TArray<FString> Lines;
-	if (!FFileHelper::LoadFileToStringArray(Lines, *FilePath))
-	{
-		OutError = FString::Printf(TEXT("Json File: %s is Not exists"), *FilePath);
-		UE_LOG(PythonKX, Warning, TEXT("%s"), *OutError);
-		return false;
-	}
-	if (Lines.Num() == 0)
-	{
-		OutError = FString::Printf(TEXT("Json File: %s is Empty"), *FilePath);
-		UE_LOG(PythonKX, Warning, TEXT("%s"), *OutError);
-		return false;
-	}
-
-	FLineSplicer(OutText, {FilePath}).AppendLines(FilePath, Lines);
-	return true;
-}
-
 TSharedPtr<FJsonObject> LoadJsonFile(const FString& FilePath, FString& OutError)
 {
 	FDescriptionText Description;
@@ -223,13 +73,6 @@ TSharedPtr<FJsonObject> LoadJsonFile(const FString& FilePath, FString& OutError)
 		return nullptr;
 	}
 	return ParseDescription(FilePath, Description, OutError);
-}
-
-FString LoadExternalJson(const FString& Path, TArray<FString> Ancestors)
-{
-	FDescriptionText Description;
-	FLineSplicer(Description, MoveTemp(Ancestors)).Include(Path);
-	return MoveTemp(Description.Text);
 }
 
 bool GetStringFieldOfFile(const FString& JsonPath, const FString& FieldName, FString& OutValue)
