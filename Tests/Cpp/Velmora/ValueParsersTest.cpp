@@ -345,7 +345,7 @@ TEST(ParseComboBoxOptionsSource, EntriesAreReadAsText)
 	EXPECT_TRUE(ParseComboBoxOptionsSource(JsonValue(R"(["a", 5, true])"), Options, Shared));
 	EXPECT_EQ(Options, FLines({TEXT("a"), TEXT("5"), TEXT("true")}));
 	ASSERT_EQ(Shared.Num(), 3);
-	EXPECT_EQ(*Shared[1], FString(TEXT("5")));
+	EXPECT_EQ(FLines({*Shared[0], *Shared[1], *Shared[2]}), Options);
 
 	EXPECT_FALSE(ParseComboBoxOptionsSource(JsonValue(R"("a")"), Options, Shared));
 	EXPECT_EQ(Options, FLines());
@@ -390,6 +390,39 @@ TEST(ParseColumnRow, EntriesConvertToIntegersAsJsonValuesDo)
 	EXPECT_EQ(Column, 2);
 	EXPECT_EQ(Row, 7);
 	EXPECT_EQ(Log.Lines(), FLines());
+}
+
+TEST(ParseColumnRow, NumbersRoundHalvesAwayFromZero)
+{
+	int32 Column = 0;
+	int32 Row = 0;
+
+	EXPECT_TRUE(ParseColumnRow(JsonObject(R"({ "Column_Row": [1.5, 2.4] })"), Column, Row));
+
+	EXPECT_EQ(Column, 2);
+	EXPECT_EQ(Row, 2);
+}
+
+TEST(ParseColumnRow, EntryThatIsNoIntegerByTypeAndTextIsRefused)
+{
+	for (const TCHAR* const Entry : {TEXT("1.5"), TEXT("x"), TEXT(""), TEXT("99999999999"), TEXT("1e3")})
+	{
+		const FLogCapture Log(TEXT("Velmora"));
+		int32 Column = 0;
+		int32 Row = 0;
+		const FString Json = FString::Printf(TEXT("{ \"Column_Row\": [1, \"%s\"] }"), Entry);
+
+		EXPECT_FALSE(ParseColumnRow(JsonObject(TCHAR_TO_UTF8(*Json)), Column, Row));
+
+		EXPECT_EQ(Column, -1);
+		EXPECT_EQ(Row, -1);
+		EXPECT_EQ(Log.Lines(), FLines({FString(TEXT("Velmora: Error: Parse ColumnRowValues error ")) + Entry}));
+	}
+	const FLogCapture Log(TEXT("Velmora"));
+	int32 Column = 0;
+	int32 Row = 0;
+	EXPECT_FALSE(ParseColumnRow(JsonObject(R"({ "Column_Row": [true, 1] })"), Column, Row));
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: Parse ColumnRowValues error true")}));
 }
 
 TEST(ParseColumnRow, EachFaultHasItsMessageAndGivesMinusOne)

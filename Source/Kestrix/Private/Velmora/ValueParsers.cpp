@@ -1,6 +1,7 @@
 #include "Velmora/ValueParsers.h"
 
 #include "KestrixLog.h"
+#include "Misc/DefaultValueHelper.h"
 #include "Velmora/KeyTables.h"
 
 float ToFloat(double Number)
@@ -402,6 +403,19 @@ bool ParseStrArray2D(const TSharedPtr<FJsonValue>& Value, TArray<TArray<FString>
 	return true;
 }
 
+namespace
+{
+/** A string counts if the whole of it is an integer; a number is rounded. Nothing else is one, whatever it would convert to. */
+bool ReadInteger(const FJsonValue& Value, int32& Out)
+{
+	if (Value.Type == EJson::String)
+	{
+		return FDefaultValueHelper::ParseInt(Value.AsString(), Out);
+	}
+	return Value.Type == EJson::Number && Value.TryGetNumber(Out);
+}
+}
+
 bool ParseColumnRow(const TSharedPtr<FJsonObject>& Object, int32& OutColumn, int32& OutRow)
 {
 	OutColumn = OutRow = -1;
@@ -420,7 +434,7 @@ bool ParseColumnRow(const TSharedPtr<FJsonObject>& Object, int32& OutColumn, int
 	for (int32 Index = 0; Index < 2; ++Index)
 	{
 		const FJsonValue& Entry = *(*Entries)[Index];
-		if (!Entry.TryGetNumber(Numbers[Index]))
+		if (!ReadInteger(Entry, Numbers[Index]))
 		{
 			FString Text;
 			Entry.TryGetString(Text);
