@@ -11,6 +11,11 @@
 TSharedRef<SWidget> BuildTree(const char* RootObject)
 {
 	const TSharedPtr<FJsonObject> Root = JsonObject(RootObject);
+	if (!Root.IsValid() || Root->Values.Num() == 0)
+	{
+		ADD_FAILURE() << "no root object: " << RootObject;
+		return SNullWidget::NullWidget;
+	}
 	const auto First = Root->Values.CreateConstIterator();
 	return Build(First.Key(), First.Value(), SNew(SBorder), 0, TEXT("/"), nullptr);
 }
@@ -32,7 +37,18 @@ FString Outline(const TSharedRef<SWidget>& Widget)
 
 TSharedRef<SWidget> ChildOf(const TSharedRef<SWidget>& Parent, int32 Index)
 {
+	const int32 NumChildren = Parent->GetChildren()->Num();
+	if (Index >= NumChildren)
+	{
+		ADD_FAILURE() << TCHAR_TO_UTF8(*Outline(Parent)) << " has no child " << Index;
+		return SNullWidget::NullWidget;
+	}
 	return Parent->GetChildren()->GetChildAt(Index);
+}
+
+void ReportWrongType(const TSharedRef<SWidget>& Widget, const FString& ExpectedType)
+{
+	ADD_FAILURE() << "expected " << TCHAR_TO_UTF8(*ExpectedType) << ", found " << TCHAR_TO_UTF8(*Outline(Widget));
 }
 
 FChildRect ArrangeChild(const TSharedRef<SWidget>& Parent, const FVector2D& ParentSize, int32 Index)
@@ -40,7 +56,11 @@ FChildRect ArrangeChild(const TSharedRef<SWidget>& Parent, const FVector2D& Pare
 	Parent->SlatePrepass(1.0f);
 	FArrangedChildren Arranged(EVisibility::Visible);
 	Parent->ArrangeChildren(FGeometry::MakeRoot(ParentSize, FSlateLayoutTransform()), Arranged);
-	EXPECT_LT(Index, Arranged.Num());
+	if (Index >= Arranged.Num())
+	{
+		ADD_FAILURE() << TCHAR_TO_UTF8(*Outline(Parent)) << " arranges no child " << Index;
+		return {};
+	}
 	const FGeometry& Geometry = Arranged[Index].Geometry;
 	return {FVector2D(Geometry.GetAbsolutePosition()), Geometry.GetLocalSize()};
 }
