@@ -55,7 +55,26 @@ void FRunningPlugin::StartModule()
 
 void FRunningPlugin::EndModule()
 {
+	if (!FModuleManager::Get().IsModuleLoaded(ModuleName))
+	{
+		return;
+	}
+
+	// The plugin keeps the data objects of its tools for as long as the editor runs; here the next test wants their names.
+	FKestrixModule& Module = FKestrixModule::Get();
+	TArray<UVelmoraData*> DataObjects;
+	for (const FString& Path : Module.GetAllToolDataPaths())
+	{
+		DataObjects.Add(Module.GetToolsDataInstanceByName(Path));
+	}
 	FModuleManager::Get().UnloadModule(ModuleName);
+	for (UVelmoraData* const Data : DataObjects)
+	{
+		Data->RemoveFromRoot();
+		Data->ClearFlags(RF_MarkAsRootSet);
+		Data->MarkAsGarbage();
+	}
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
 }
 
 FString FRunningPlugin::WriteTool(const TCHAR* RelativeName, const FString& Description) const

@@ -3,6 +3,7 @@
 #include "KestrixLog.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
+#include "NameOfText.h"
 #include "Templates/Casts.h"
 #include "UObject/Package.h"
 #include "Velmora/VelmoraData.h"
@@ -18,17 +19,27 @@ UBlueprint* LoadDataBlueprint(const FString& DataPath)
 	return Cast<UBlueprint>(StaticLoadObject(UBlueprint::StaticClass(), nullptr, *DataPath));
 }
 
+/** The name that a data object would like to have, or one like it where another tool's object bears that. */
+FName MakeDataObjectName(const UClass* Class, const FString& DesiredName)
+{
+	const FName Name = NameOfText(DesiredName);
+	const bool bTaken = StaticFindObjectFast(UObject::StaticClass(), GetTransientPackage(), Name) != nullptr;
+	return bTaken ? MakeUniqueObjectName(GetTransientPackage(), Class, Name) : Name;
+}
+
 UVelmoraData* MakeDataObject(const FString& JsonPath, const FString& DataPath)
 {
 	const FString ToolName = FPaths::GetBaseFilename(JsonPath);
 	if (const UBlueprint* const Blueprint = LoadDataBlueprint(DataPath))
 	{
 		UE_LOG(PythonKX, Log, TEXT("GetToolsDataInstance: Creat DataBP: %s"), *DataPath);
-		const FName Name(*(FPaths::GetBaseFilename(DataPath) + TEXT("_") + ToolName));
-		return Cast<UVelmoraData>(NewObject<UObject>(GetTransientPackage(), Blueprint->GeneratedClass, Name, RF_MarkAsRootSet));
+		UClass* const Class = Blueprint->GeneratedClass;
+		const FName Name = MakeDataObjectName(Class, FPaths::GetBaseFilename(DataPath) + TEXT("_") + ToolName);
+		return Cast<UVelmoraData>(NewObject<UObject>(GetTransientPackage(), Class, Name, RF_MarkAsRootSet));
 	}
 	UE_LOG(PythonKX, Log, TEXT("GetToolsDataInstance: Creat from UVelmoraData"));
-	return NewObject<UVelmoraData>(GetTransientPackage(), FName(*(TEXT("UVelmoraData_") + ToolName)), RF_MarkAsRootSet);
+	const FName Name = MakeDataObjectName(UVelmoraData::StaticClass(), TEXT("UVelmoraData_") + ToolName);
+	return NewObject<UVelmoraData>(GetTransientPackage(), Name, RF_MarkAsRootSet);
 }
 }
 

@@ -176,21 +176,24 @@ TEST(VelmoraData, PackageWithoutABlueprintFallsBackToThePlainClass)
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("PythonKX: Log: GetToolsDataInstance: Creat from UVelmoraData")}));
 }
 
-TEST(VelmoraData, ToolsWithOneFileNameShareAnObjectThatTheSecondRebuilds)
+TEST(VelmoraData, ToolsWithOneFileNameKeepAnObjectEach)
 {
 	FRunningPlugin Plugin;
 	UVelmoraData& First = Plugin.Launch(TEXT("A/Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "OfA" } })"));
 
 	UVelmoraData& Second = Plugin.Launch(TEXT("B/Tool.json"), ToolWithRoot(R"({ "SBox": { "Aka": "OfB" } })"));
 
-	EXPECT_EQ(&First, &Second);
+	EXPECT_NE(&First, &Second);
+	EXPECT_EQ(First.GetName(), FString(TEXT("UVelmoraData_Tool")));
+	EXPECT_NE(Second.GetName(), First.GetName());
+	EXPECT_TRUE(First.GetNamedWidget("OfA").IsValid());
 	EXPECT_FALSE(Second.GetNamedWidget("OfA").IsValid());
 	EXPECT_TRUE(Second.GetNamedWidget("OfB").IsValid());
 	EXPECT_TRUE(Second.IsRooted());
-	EXPECT_EQ(FKestrixModule::Get().GetAllToolDataPaths().Num(), 2);
+	EXPECT_EQ(FKestrixModule::Get().GetToolPathOfDataObject(&Second), Plugin.Project.Path(TEXT("KX/Kestrix/Python/B/Tool.json")));
 }
 
-TEST(VelmoraData, PathOfAnObjectIsThatOfItsFirstTool)
+TEST(VelmoraData, PathOfAnObjectIsThatOfItsTool)
 {
 	FRunningPlugin Plugin;
 	UVelmoraData& Data = Plugin.Launch(TEXT("A.json"), EmptyTool);
