@@ -6,6 +6,7 @@
 #include "Kestrix.h"
 #include "KestrixLog.h"
 #include "Misc/PackageName.h"
+#include "NameOfText.h"
 #include "ProfilingDebugging/CpuProfilerTrace.h"
 #include "PythonCommand.h"
 #include "ToolsSettings.h"
@@ -101,9 +102,9 @@ bool FKestrixModule::RegisterToolTab(const FString& JsonPath, FName& OutTabId, F
 	const bool bParsed = GetDataAndTabLabel(FullPath, DataPath, TabLabel);
 	ReportDataPath(DataPath);
 
-	const FName TabId(*FullPath);
+	const FName TabId = NameOfText(FullPath);
 	const bool bRegistered = RegisteredToolTabIds.Contains(TabId);
-	if (!bParsed && !bRegistered)
+	if (TabId.IsNone() || (!bParsed && !bRegistered))
 	{
 		return false;
 	}

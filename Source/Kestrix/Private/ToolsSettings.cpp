@@ -6,6 +6,7 @@
 #include "KestrixLog.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
+#include "NameOfText.h"
 #include "Velmora/VelmoraGenerator.h"
 
 FSettingsPaths::FSettingsPaths()
@@ -162,17 +163,17 @@ FString GetVelmoraDataFolder()
 
 FName GetMainbarExtensionHookName()
 {
-	return FName(*ReadString(AdvancedSection, TEXT("MainbarExtensionHookName")));
+	return NameOfText(ReadString(AdvancedSection, TEXT("MainbarExtensionHookName")));
 }
 
 FName GetMainMenuExtensionHookName()
 {
-	return FName(*ReadString(AdvancedSection, TEXT("MainMenuExtensionHookName")));
+	return NameOfText(ReadString(AdvancedSection, TEXT("MainMenuExtensionHookName")));
 }
 
 FName GetMaterialEditorMenuExtensionHookName()
 {
-	return FName(*ReadString(AdvancedSection, TEXT("MaterialEditorMenuExtensionHookName")));
+	return NameOfText(ReadString(AdvancedSection, TEXT("MaterialEditorMenuExtensionHookName")));
 }
 
 int32 GetLogNumberLimit()

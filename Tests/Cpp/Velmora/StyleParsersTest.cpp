@@ -29,6 +29,26 @@ TEST(ParseFontInfo, DefaultFontNamesItsFaceAndSize)
 	EXPECT_EQ(Font.Size, 10);
 }
 
+TEST(ParseFontInfo, FaceWithDotsInItIsAllBetweenTheFirstAndTheLast)
+{
+	FSlateFontInfo Font;
+
+	EXPECT_TRUE(ParseFontInfo(JsonValue(R"({ "Style": "FCoreStyle", "StyleName": "DefaultFont.Bold.Italic.10" })"), Font));
+
+	EXPECT_TRUE(Font.TypefaceFontName == FName("Bold.Italic"));
+	EXPECT_EQ(Font.Size, 10);
+}
+
+TEST(ParseFontInfo, DefaultFontInAnyCaseHasItsFaces)
+{
+	FSlateFontInfo Font;
+
+	EXPECT_TRUE(ParseFontInfo(JsonValue(R"({ "Style": "FCoreStyle", "StyleName": "defaultfont.Bold.10" })"), Font));
+
+	EXPECT_TRUE(Font.TypefaceFontName == FName("Bold"));
+	EXPECT_EQ(Font.Size, 10);
+}
+
 TEST(ParseFontInfo, DefaultFontAloneIsRegularWithoutASize)
 {
 	FSlateFontInfo Font;

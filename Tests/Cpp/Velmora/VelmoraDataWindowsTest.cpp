@@ -92,6 +92,27 @@ TEST(LaunchVelmoraTool, FileThatDoesNotParseAtItsFirstLaunchOpensNoTab)
 	EXPECT_EQ(OpenToolTabs.Num(), 0);
 }
 
+TEST(LaunchVelmoraTool, PathThatIsTooLongForANameIsAnErrorAndOpensNoTab)
+{
+	FRunningPlugin Plugin;
+	FString Name;
+	while (Name.Len() < NAME_SIZE)
+	{
+		Name += FString::ChrN(200, TEXT('f')) + TEXT("/");
+	}
+	Plugin.WriteTool(*(Name + TEXT("A.json")), EmptyTool);
+	const FLogCapture Lines(TEXT("PythonKX"));
+
+	EXPECT_FALSE(UVelmoraData::LaunchVelmoraTool(Name + TEXT("A.json")));
+
+	ASSERT_EQ(Lines.Errors().Num(), 1);
+	EXPECT_TRUE(Lines.Errors()[0].StartsWith(TEXT("A name has at most 1023 characters, found ")));
+	EXPECT_EQ(RegisteredToolTabIds.Num(), 0);
+	EXPECT_EQ(OpenToolTabs.Num(), 0);
+	EXPECT_FALSE(UVelmoraData::RequestClose(Name + TEXT("A.json")));
+	EXPECT_EQ(UVelmoraData::SnapshotVelmoraWindow(Name + TEXT("A.json")), FString());
+}
+
 TEST(LaunchVelmoraTool, AbsolutePathOpensTheSameTool)
 {
 	FRunningPlugin Plugin;

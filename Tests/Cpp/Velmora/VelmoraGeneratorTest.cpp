@@ -12,7 +12,6 @@
 #include "Velmora/WidgetTree.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
-#include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
 #include <gtest/gtest.h>
@@ -290,11 +289,11 @@ TEST(VelmoraGenerator, EveryWidgetTypeIsBuiltUnderItsNameOrIsAnError)
 		const FLogCapture Log(TEXT("Velmora"));
 		const FString Root = TEXT("{ \"SBox\": { \"Content\": { \"") + Type + TEXT("\": { \"Type\": \"Integer\" } } } }");
 
-		const TSharedRef<SWidget> Child = ChildOf(BuildTree(TCHAR_TO_UTF8(*Root)));
+		const FString Tree = Outline(BuildTree(TCHAR_TO_UTF8(*Root))) + TEXT("[");
 
 		const bool bIsBuilt = Buildable.Contains(Type);
-		EXPECT_EQ(Child != SNullWidget::NullWidget, bIsBuilt) << TCHAR_TO_UTF8(*Type);
-		EXPECT_TRUE(!bIsBuilt || Child->GetType() == FName(*Type)) << TCHAR_TO_UTF8(*Type);
+		EXPECT_EQ(Tree.StartsWith(TEXT("SBox[") + Type), bIsBuilt) << TCHAR_TO_UTF8(*Tree);
+		EXPECT_EQ(Tree == TEXT("SBox["), !bIsBuilt) << TCHAR_TO_UTF8(*Tree);
 		const FString Error = TEXT("\t\tSlate ") + Type + TEXT(" 's Value Type not implement");
 		EXPECT_EQ(Log.Errors(), bIsBuilt || Type == TEXT("SHeaderRow") ? FLines() : FLines({Error}));
 	}
@@ -354,6 +353,41 @@ TEST(VelmoraGenerator, AkaThatIsNoStringIsAnError)
 	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: IsID: Aka @Path /SBox")}));
 }
 
+TEST(VelmoraGenerator, AkaThatIsNullIsAnErrorToo)
+{
+	const FLogCapture Log(TEXT("Velmora"));
+
+	const TSharedRef<SWidget> Tree = BuildTree(R"({ "SBox": { "Aka": null } })");
+
+	EXPECT_FALSE(Tree->GetMetaData<FTagMetaData>().IsValid());
+	EXPECT_EQ(Log.Lines(), FLines({TEXT("Velmora: Error: IsID: Aka @Path /SBox")}));
+}
+
+TEST(VelmoraGenerator, EmptyAkaIsTheNameNone)
+{
+	const FTempProject Project;
+	const FString Path = Project.Write(TEXT("Tool.json"), R"({ "Root": { "SBox": { "Aka": "" } } })");
+	UVelmoraData* Data = NewObject<UVelmoraData>();
+
+	const TSharedRef<SVelmoraWidget> Tool = SNew(SVelmoraWidget).JsonPath(Path).DataObj(Data);
+
+	EXPECT_EQ(Data->NamedWidget.FindRef(NAME_None), ChildOf(Tool));
+}
+
+TEST(VelmoraGenerator, AkaThatIsTooLongForANameIsReportedAndGivesNone)
+{
+	const FLogCapture Log(TEXT("PythonKX"));
+	const FString Json = TEXT("{ \"SBox\": { \"Aka\": \"") + FString::ChrN(NAME_SIZE, TEXT('a')) + TEXT("\" } }");
+
+	const TSharedRef<SWidget> Tree = BuildTree(TCHAR_TO_UTF8(*Json));
+
+	ASSERT_TRUE(Tree->GetMetaData<FTagMetaData>().IsValid());
+	EXPECT_EQ(Tree->GetMetaData<FTagMetaData>()->Tag, NAME_None);
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("PythonKX: Error: A name has at most 1023 characters, found 1024: \"") + FString::ChrN(64, TEXT('a')) +
+			TEXT("...\"")}));
+}
+
 TEST(VelmoraGenerator, NullValuesDoNothing)
 {
 	const FLogCapture Log(TEXT("Velmora"));
@@ -394,27 +428,42 @@ TEST(VelmoraGenerator, IndentIsOneTabPerLevel)
 	EXPECT_EQ(GetIndent(3), FString(TEXT("\t\t\t")));
 }
 
-TEST(VelmoraGenerator, DeeplyNestedWidgetsAreBuilt)
+TEST(VelmoraGenerator, ThousandWidgetsWithinEachOtherAreBuiltAndDeeperOnesAreOneError)
 {
-	// As deep as a JSON text may be nested, three levels to a widget.
-	constexpr int32 NumLevels = 1650;
+	constexpr int32 NumLevels = 1200;
 	FString Root;
 	for (int32 Level = 0; Level < NumLevels; ++Level)
 	{
 		Root += TEXT("{ \"SVerticalBox\": { \"Slots\": [ ");
 	}
+	Root += TEXT("{ \"SBox\": {} }, { \"SBox\": {} }");
 	for (int32 Level = 0; Level < NumLevels; ++Level)
 	{
 		Root += TEXT(" ] } }");
 	}
+	const FLogCapture Log(TEXT("Velmora"));
+	const FTempProject Project;
+	const FString Path = Project.Write(TEXT("Tool.json"), TEXT("{ \"Root\": ") + Root + TEXT("}"));
+	const TSharedRef<SVelmoraWidget> Tool = SNew(SVelmoraWidget).JsonPath(Path);
 
-	TSharedRef<SWidget> Widget = BuildTree(TCHAR_TO_UTF8(*Root));
-
+	TSharedRef<SWidget> Widget = ChildOf(Tool);
 	int32 NumNested = 1;
 	while (Widget->GetChildren()->Num() > 0)
 	{
 		Widget = ChildOf(Widget);
 		++NumNested;
 	}
-	EXPECT_EQ(NumNested, NumLevels);
+	EXPECT_EQ(NumNested, 1000);
+	EXPECT_EQ(Log.Lines(),
+		FLines({TEXT("Velmora: Error: ") + Path +
+			TEXT(": a tool has at most 1000 widgets within each other, what lies deeper is left out")}));
+}
+
+TEST(VelmoraGenerator, AnotherRootKeyIsBuiltFromItsOwnObject)
+{
+	const FTempProject Project;
+	const FString Path = Project.Write(TEXT("Tool.json"), R"({ "Root": { "SBox": {} }, "Other": { "SBorder": {} } })");
+
+	EXPECT_EQ(Outline(GenerateWidgetFromFile(Path, TEXT("Other"), nullptr)), FString(TEXT("SBorder")));
+	EXPECT_EQ(ErrorTextOf(GenerateWidgetFromFile(Path, TEXT("Third"), nullptr)), FString(TEXT("No Widget")));
 }

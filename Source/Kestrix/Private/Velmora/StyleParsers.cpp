@@ -3,6 +3,7 @@
 #include "Fonts/SlateFontInfo.h"
 #include "KestrixLog.h"
 #include "Misc/DefaultValueHelper.h"
+#include "NameOfText.h"
 #include "Styling/CoreStyle.h"
 #include "Velmora/KeyTables.h"
 #include "Velmora/VelmoraGenerator.h"
@@ -46,7 +47,7 @@ bool UseFallbackFont(FSlateFontInfo& Out)
 struct FSizedFontName
 {
 	explicit FSizedFontName(const FString& StyleName)
-		: Key(*StyleName)
+		: Key(NameOfText(StyleName))
 	{
 		int32 Dot = INDEX_NONE;
 		int32 Number = INDEX_NONE;
@@ -54,7 +55,7 @@ struct FSizedFontName
 			Number != INDEX_NONE)
 		{
 			Size = Number;
-			Key = FName(*StyleName.Left(StyleName.Len() - Dot - 1));
+			Key = NameOfText(StyleName.Left(StyleName.Len() - Dot - 1));
 		}
 	}
 
@@ -85,7 +86,7 @@ FSlateFontInfo GetCoreFont(const FString& StyleName, const FSizedFontName& Name)
 		return GetEditorFont(Name);
 	}
 	const FString Face = bHasDot ? StyleName.Mid(First + 1, Last - First - 1) : FString(TEXT("Regular"));
-	return FCoreStyle::GetDefaultFontStyle(FName(*Face), Name.Size, FFontOutlineSettings());
+	return FCoreStyle::GetDefaultFontStyle(NameOfText(Face), Name.Size, FFontOutlineSettings());
 }
 }
 
@@ -120,7 +121,7 @@ bool ParseStyleBrush(const TSharedPtr<FJsonValue>& Value, const FSlateBrush*& Ou
 	{
 		if (IsEditorStyleSet(Style))
 		{
-			Out = FAppStyle::Get().GetBrush(FName(*Brush));
+			Out = FAppStyle::Get().GetBrush(NameOfText(Brush));
 			return true;
 		}
 		UE_LOG(Velmora, Warning, TEXT("Style: %s Not Support yet. Supperted Style: FEditorStyle, FCoreStyle and FAppStyle."),
@@ -145,7 +146,7 @@ bool ParseWidgetStyleName(const TSharedPtr<FJsonValue>& Value, FName& Out)
 		UE_CLOG(bLogCreateWidget, Velmora, Log, TEXT("ParseWidgetStyle Style %s, FontStyle: %s"), *Style, *StyleName);
 		if (IsEditorStyleSet(Style))
 		{
-			Out = FName(*StyleName);
+			Out = NameOfText(StyleName);
 			return true;
 		}
 		UE_LOG(Velmora, Warning, TEXT("Style: %s Not Support yet"), *Style);

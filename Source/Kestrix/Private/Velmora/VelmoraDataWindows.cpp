@@ -7,6 +7,7 @@
 #include "KestrixLog.h"
 #include "Math/IntVector.h"
 #include "Misc/Paths.h"
+#include "NameOfText.h"
 #include "ToolTabs.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
@@ -41,7 +42,7 @@ bool UVelmoraData::LaunchVelmoraTool(const FString& ToolsPath)
 	}
 	if (Size.X > 0.0)
 	{
-		OpenToolInNewWindow(TabId, Size, Position, FName(*ToolsPath));
+		OpenToolInNewWindow(TabId, Size, Position, NameOfText(ToolsPath));
 		return false;
 	}
 	if (Position.X > 0.0)
@@ -54,7 +55,7 @@ bool UVelmoraData::LaunchVelmoraTool(const FString& ToolsPath)
 
 bool UVelmoraData::RequestClose(const FString& ToolsPath)
 {
-	const FName TabName(*ToolsPath);
+	const FName TabName = NameOfText(ToolsPath);
 	for (const FName TabId : RegisteredToolTabIds)
 	{
 		if (!IsSameTool(TabId, TabName))
@@ -78,7 +79,7 @@ bool UVelmoraData::RequestClose(const FString& ToolsPath)
 
 FString UVelmoraData::SnapshotVelmoraWindow(const FString& ToolsPath, FVector2D OverrideWindowSize, FString ImageFilePath)
 {
-	const TSharedPtr<SDockTab> Tab = FKestrixModule::FindOpenToolTab(FName(*ToolsPath));
+	const TSharedPtr<SDockTab> Tab = FKestrixModule::FindOpenToolTab(NameOfText(ToolsPath));
 	if (!Tab.IsValid())
 	{
 		return FString();

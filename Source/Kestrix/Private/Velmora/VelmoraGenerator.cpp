@@ -3,6 +3,7 @@
 #include "Dom/JsonObject.h"
 #include "KestrixLog.h"
 #include "Misc/Paths.h"
+#include "NameOfText.h"
 #include "Types/ISlateMetaData.h"
 #include "Velmora/Builders/WidgetBuilders.h"
 #include "Velmora/Decorators.h"
@@ -20,6 +21,15 @@ bool bLogCreateWidget = false;
 
 namespace
 {
+/** Widgets within each other. Walk, layout and painting recurse, and the engine's main thread has a stack of 12 MB. */
+constexpr int32 MaxNestedWidgets = 1000;
+
+/** A widget's own fields are one level below it, its children two. */
+constexpr int32 DepthPerWidget = 2;
+
+/** Whether the tree that is being built has said that it goes too deep. */
+bool bDepthReported = false;
+
 /** What a field is handled in: everything of a call of Build but the field itself. */
 struct FWalk
 {
@@ -44,7 +54,7 @@ void ApplyAka(const FString& Key, const TSharedPtr<FJsonValue>& Value, const FWa
 		UE_LOG(Velmora, Error, TEXT("IsID: %s @Path %s"), *Key, *Walk.Path);
 		return;
 	}
-	const FName AkaName(*Value->AsString());
+	const FName AkaName = NameOfText(Value->AsString());
 	Walk.Parent->AddMetadata(MakeShared<FTagMetaData>(AkaName));
 	if (Walk.Context != nullptr && Walk.Context->DataObj != nullptr)
 	{
@@ -166,6 +176,14 @@ TSharedRef<SWidget> BuildWidget(const FString& Key, const TSharedPtr<FJsonValue>
 		UE_LOG(Velmora, Warning, TEXT("%sSlate %s 's Value Type should be EJson::Object"), *Walk.Indent(), *Key);
 		return Walk.Parent;
 	}
+	if (Walk.Depth >= MaxNestedWidgets * DepthPerWidget)
+	{
+		UE_CLOG(!bDepthReported, Velmora, Error,
+			TEXT("%s: a tool has at most %d widgets within each other, what lies deeper is left out"),
+			Walk.Context != nullptr ? *Walk.Context->JsonPath : TEXT(""), MaxNestedWidgets);
+		bDepthReported = true;
+		return Walk.Parent;
+	}
 	const TSharedPtr<SWidget> Widget = RunWidgetBuilder(Key, {*Object, Walk.Parent, Walk.Depth, Walk.Path, Walk.Context});
 	if (!Widget.IsValid())
 	{
@@ -207,6 +225,8 @@ TSharedRef<SWidget> GenerateWidgetFromFile(const FString& FilePath, const FStrin
 	{
 		return MakeErrorWidget(TEXT("No Widget"));
 	}
+
+	const TGuardValue<bool> DepthGuard(bDepthReported, false);
 
 	// The fields of a description belong to a widget; those of the root belong to one that nobody sees.
 	const auto First = (*Root)->Values.CreateConstIterator();

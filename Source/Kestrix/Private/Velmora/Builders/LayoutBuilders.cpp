@@ -2,6 +2,7 @@
 
 #include "Dom/JsonObject.h"
 #include "KestrixLog.h"
+#include "NameOfText.h"
 #include "Velmora/StyleParsers.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
@@ -41,7 +42,7 @@ TSharedRef<SBorder> ParseSBorder(const TSharedPtr<FJsonObject>& Object)
 	const FString Brush = (*Image)->GetStringField(TEXT("Brush"));
 	if (IsEditorStyleSet(Style))
 	{
-		Border->SetBorderImage(FAppStyle::Get().GetBrush(FName(*Brush)));
+		Border->SetBorderImage(FAppStyle::Get().GetBrush(NameOfText(Brush)));
 	}
 	else
 	{
