@@ -58,7 +58,7 @@ TEST(ShippedTools, FirstUseOfANewProjectLeavesNothingToComplain)
 
 	EXPECT_EQ(Log.Lines(),
 		FLines({TEXT("PythonKX: Warning: Copy Default UI, Config, Python ") + Project.GetDir() +
-			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("//KX ")}));
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("/KX ")}));
 	EXPECT_EQ(Project.Read(TEXT("KX/Kestrix/Config/Config.ini")), Config) << "a key is missing in the shipped file";
 	EXPECT_EQ(Project.Read(TEXT("Plugins/Kestrix/Config/Plugin_Config.ini")), PluginConfig);
 	EXPECT_TRUE(MenuConfigExists);

@@ -64,7 +64,7 @@ TEST(ToolsSettings, ProjectAndPluginWithoutDefaultsGetTheKeysAndAWarning)
 
 	EXPECT_EQ(Log.Lines(),
 		FLines({TEXT("PythonKX: Warning: Can't find Plugin config: ") + Project.GetDir() +
-				TEXT("/Plugins//Kestrix/Config/Plugin_Config.ini "),
+				TEXT("/Plugins/Kestrix/Config/Plugin_Config.ini "),
 			TEXT("PythonKX: Warning: Can't find DefaultPythonSourcePath @: ") + Project.GetDir() +
 				TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX"),
 			TEXT("PythonKX: Warning: ") + MissingMenuFile(Project)}));
@@ -101,7 +101,7 @@ TEST(ToolsSettings, FirstUseCopiesTheDefaultFolderBeforeAnyKeyIsRead)
 
 	EXPECT_EQ(Log.Lines(),
 		FLines({TEXT("PythonKX: Warning: Copy Default UI, Config, Python ") + Project.GetDir() +
-			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("//KX ")}));
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("/KX ")}));
 	EXPECT_EQ(GetPythonContentFolder(), Project.GetDir() + TEXT("//KX/Scripts"));
 	EXPECT_EQ(GetLogNumberLimit(), 10240);
 	EXPECT_TRUE(MenuConfigExists);
@@ -119,10 +119,10 @@ TEST(ToolsSettings, CopyThatFailsIsAnErrorBehindTheWarning)
 
 	EXPECT_EQ(Log.Warnings()[0],
 		TEXT("Copy Default UI, Config, Python ") + Project.GetDir() +
-			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("//KX "));
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX ") + Project.GetDir() + TEXT("/KX "));
 	EXPECT_EQ(Log.Errors(),
 		FLines({TEXT("Not all files of ") + Project.GetDir() +
-			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX could be copied to ") + Project.GetDir() + TEXT("//KX.")}));
+			TEXT("//Plugins/Kestrix/Resources/DefaultPythonSource/KX could be copied to ") + Project.GetDir() + TEXT("/KX.")}));
 }
 
 TEST(ToolsSettings, CopySwitchedOffLeavesTheProjectWithoutTheFolder)
@@ -257,6 +257,18 @@ TEST(ToolsSettings, GettersReadTheWrittenDefaults)
 	EXPECT_TRUE(IsSketchToolsEnabled());
 	EXPECT_FALSE(IsToolsTabOnToolbarEnabled());
 	EXPECT_TRUE(IsCopyInitialResourceEnabled());
+}
+
+TEST(ToolsSettings, RelativeToolPathHasEachSlashOnceAndAnAbsoluteOneStaysAsItIs)
+{
+	const FSettingsProject Project;
+	InitSettings();
+	const FString Clean = Project.Path(TEXT("KX/Kestrix/Python/A/B.json"));
+
+	EXPECT_EQ(GetToolAbsolutePath(TEXT("A/B.json")), Clean);
+	EXPECT_EQ(GetToolAbsolutePath(TEXT("A//C//..//B.json")), Clean);
+	EXPECT_EQ(GetToolAbsolutePath(Clean), Clean);
+	EXPECT_EQ(GetToolAbsolutePath(TEXT("/A//B.json")), FString(TEXT("/A//B.json")));
 }
 
 TEST(ToolsSettings, EachGetterReadsAKeyOfItsOwn)

@@ -83,9 +83,11 @@ FString EditorCommandLine::CheckProjectFile(const FString& Name)
 FString EditorCommandLine::MakeFull(const FString& Path)
 {
 	char Folder[PATH_MAX];
-	return FPaths::IsRelative(Path) && getcwd(Folder, sizeof(Folder))
+	FString Full = FPaths::IsRelative(Path) && getcwd(Folder, sizeof(Folder))
 		? FPaths::ConvertRelativePathToFull(UTF8_TO_TCHAR(Folder), Path)
 		: FPaths::ConvertRelativePathToFull(Path);
+	FPaths::RemoveDuplicateSlashes(Full);
+	return Full;
 }
 
 TArray<FString> EditorCommandLine::FindUnknownSwitches(const FString& CommandLine)

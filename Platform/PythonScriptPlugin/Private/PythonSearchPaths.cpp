@@ -11,6 +11,7 @@ static const TCHAR* const GSettingsSection = TEXT("/Script/PythonScriptPlugin.Py
 static FString FullFolder(const FString& Folder)
 {
 	FString Result = FPaths::ConvertRelativePathToFull(Folder);
+	FPaths::RemoveDuplicateSlashes(Result);
 	FPaths::NormalizeDirectoryName(Result);
 	return Result;
 }

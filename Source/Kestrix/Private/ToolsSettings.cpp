@@ -10,9 +10,10 @@
 #include "Velmora/VelmoraGenerator.h"
 
 FSettingsPaths::FSettingsPaths()
-	: ConfigFile(FPaths::ProjectDir() + TEXT("/KX/Kestrix/Config/Config.ini"))
-	, PluginConfigFile(FPaths::ProjectPluginsDir() + TEXT("/Kestrix/Config/Plugin_Config.ini"))
-	, ProjectContentRoot(FPaths::ProjectDir() + TEXT("/KX"))
+	: ConfigFile(FConfigCacheIni::NormalizeConfigIniPath(FPaths::ProjectDir() + TEXT("/KX/Kestrix/Config/Config.ini")))
+	, PluginConfigFile(
+		  FConfigCacheIni::NormalizeConfigIniPath(FPaths::ProjectPluginsDir() + TEXT("/Kestrix/Config/Plugin_Config.ini")))
+	, ProjectContentRoot(FConfigCacheIni::NormalizeConfigIniPath(FPaths::ProjectDir() + TEXT("/KX")))
 {
 }
 
@@ -139,9 +140,16 @@ FString GetPythonContentFolder()
 	return FPaths::ProjectDir() + ReadString(SettingsSection, TEXT("PythonContentFolder"));
 }
 
+FString MakeFullPath(const FString& Path)
+{
+	FString Folded = Path;
+	FPaths::RemoveDuplicateSlashes(Folded);
+	return FPaths::ConvertRelativePathToFull(Folded);
+}
+
 FString GetToolAbsolutePath(const FString& Path)
 {
-	return FPaths::IsRelative(Path) ? FPaths::ConvertRelativePathToFull(GetPythonContentFolder() / Path) : Path;
+	return FPaths::IsRelative(Path) ? MakeFullPath(GetPythonContentFolder() / Path) : Path;
 }
 
 FString GetToolShortPath(const FString& Path)
@@ -153,7 +161,7 @@ FString GetToolShortPath(const FString& Path)
 
 FString GetMenuConfigFilePath()
 {
-	return FPaths::ConvertRelativePathToFull(FPaths::ProjectDir() + ReadString(SettingsSection, TEXT("MenuConfigFilePath")));
+	return MakeFullPath(FPaths::ProjectDir() + ReadString(SettingsSection, TEXT("MenuConfigFilePath")));
 }
 
 FString GetVelmoraDataFolder()

@@ -43,7 +43,10 @@ void ReadLogFlags();
 /** Folder of the Python sources. */
 FString GetPythonContentFolder();
 
-/** Absolute path of a tool description; a relative one is taken against the folder of the Python sources. */
+/** The full path of a relative one, with each slash once: paths that differ in nothing else are to be the same text. */
+FString MakeFullPath(const FString& Path);
+
+/** Absolute path of a tool description, an absolute one as it is; a relative one is taken against the folder of the Python sources. */
 FString GetToolAbsolutePath(const FString& Path);
 
 /** What stands behind the first "/Kestrix/Python/" of a path, in any case; a path without it as it is. */

@@ -17,7 +17,8 @@ void FConfigCacheIni::InitializeConfigSystem()
 
 FString FConfigCacheIni::AddProjectFile(const TCHAR* BaseName)
 {
-	const FString FullName = FPaths::ConvertRelativePathToFull(FPaths::GeneratedConfigDir() + BaseName + TEXT(".ini"));
+	const FString FullName =
+		NormalizeConfigIniPath(FPaths::ConvertRelativePathToFull(FPaths::GeneratedConfigDir() + BaseName + TEXT(".ini")));
 	DefaultsOfFile.Add(FullName, FPaths::ProjectConfigDir() + TEXT("Default") + BaseName + TEXT(".ini"));
 	return FullName;
 }
@@ -34,11 +35,18 @@ FConfigFile FConfigCacheIni::LoadDefaults(const FString& FullName) const
 	return Defaults;
 }
 
+FString FConfigCacheIni::NormalizeConfigIniPath(const FString& NonNormalizedPath)
+{
+	FString Path = NonNormalizedPath;
+	FPaths::NormalizeFilename(Path);
+	FPaths::RemoveDuplicateSlashes(Path);
+	return Path;
+}
+
 FConfigFile* FConfigCacheIni::Find(const FString& InFilename)
 {
-	const FString FullName = FPaths::ConvertRelativePathToFull(InFilename);
-	const bool bKnown = Files.Contains(FullName) || DefaultsOfFile.Contains(FullName) || FPaths::FileExists(FullName);
-	return bKnown ? &FindOrAdd(FullName) : nullptr;
+	const bool bKnown = Files.Contains(InFilename) || DefaultsOfFile.Contains(InFilename) || FPaths::FileExists(InFilename);
+	return bKnown ? &FindOrAdd(InFilename) : nullptr;
 }
 
 FConfigFile& FConfigCacheIni::FindOrAdd(const FString& FullName)
@@ -78,7 +86,7 @@ bool FConfigCacheIni::Write(const FString& FullName, FConfigFile& File) const
 
 void FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
 {
-	const FString FullName = Filename.IsEmpty() ? FString() : FPaths::ConvertRelativePathToFull(Filename);
+	const FString FullName = NormalizeConfigIniPath(Filename);
 	for (auto It = Files.CreateIterator(); It; ++It)
 	{
 		const bool bAsked = FullName.IsEmpty() || It.Key() == FullName;
@@ -91,7 +99,7 @@ void FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
 
 void FConfigCacheIni::UnloadFile(const FString& Filename)
 {
-	Files.Remove(FPaths::ConvertRelativePathToFull(Filename));
+	Files.Remove(NormalizeConfigIniPath(Filename));
 }
 
 bool FConfigCacheIni::GetString(const TCHAR* Section, const TCHAR* Key, FString& Value, const FString& Filename)
@@ -173,7 +181,7 @@ bool FConfigCacheIni::DoesSectionExist(const TCHAR* Section, const FString& File
 
 void FConfigCacheIni::SetString(const TCHAR* Section, const TCHAR* Key, const TCHAR* Value, const FString& Filename)
 {
-	FindOrAdd(FPaths::ConvertRelativePathToFull(Filename)).SetArray(Section, Key, {Value});
+	FindOrAdd(Filename).SetArray(Section, Key, {Value});
 }
 
 void FConfigCacheIni::SetInt(const TCHAR* Section, const TCHAR* Key, int32 Value, const FString& Filename)
@@ -198,7 +206,7 @@ void FConfigCacheIni::SetArray(const TCHAR* Section, const TCHAR* Key, const TAr
 		RemoveKey(Section, Key, Filename);
 		return;
 	}
-	FindOrAdd(FPaths::ConvertRelativePathToFull(Filename)).SetArray(Section, Key, Value);
+	FindOrAdd(Filename).SetArray(Section, Key, Value);
 }
 
 bool FConfigCacheIni::RemoveKey(const TCHAR* Section, const TCHAR* Key, const FString& Filename)

@@ -235,7 +235,6 @@ FString FPaths::ConvertRelativePathToFull(const FString& BasePath, const FString
 {
 	FString Full = IsRelative(InPath) ? BasePath / InPath : InPath;
 	NormalizeFilename(Full);
-	RemoveDuplicateSlashes(Full);
 	CollapseRelativeDirectories(Full);
 	return Full.IsEmpty() ? FString(TEXT("/")) : Full;
 }
@@ -270,6 +269,9 @@ bool FPaths::MakePathRelativeTo(FString& InPath, const TCHAR* InRelativeTo)
 
 bool FPaths::IsUnderDirectory(const FString& InPath, const FString& InDirectory)
 {
-	const FString Directory = WithSlash(ConvertRelativePathToFull(InDirectory));
-	return WithSlash(ConvertRelativePathToFull(InPath)).StartsWith(Directory, ESearchCase::CaseSensitive);
+	FString Directory = WithSlash(ConvertRelativePathToFull(InDirectory));
+	FString Path = WithSlash(ConvertRelativePathToFull(InPath));
+	RemoveDuplicateSlashes(Directory);
+	RemoveDuplicateSlashes(Path);
+	return Path.StartsWith(Directory, ESearchCase::CaseSensitive);
 }

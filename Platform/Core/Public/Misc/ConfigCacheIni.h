@@ -52,12 +52,18 @@ private:
 /**
  * Ini files in memory. A file is read when it is first asked for by its full name, and kept: a change on disk is not seen until the
  * file was flushed out of the cache or unloaded. A getter that finds nothing returns false and leaves its output alone.
+ *
+ * Getters and setters take a name as it is written: another spelling is another entry. Flush and UnloadFile look for the normalised
+ * name, and miss an entry under any other. So a name is to be normalised once, where it is made.
  */
 class CORE_API FConfigCacheIni
 {
 public:
 	/** Makes GConfig anew and names the engine's ini files of the project, which must be set. Unwritten changes are forgotten. */
 	static void InitializeConfigSystem();
+
+	/** The spelling by which files are known: "/" between folders, each once. */
+	static FString NormalizeConfigIniPath(const FString& NonNormalizedPath);
 
 	/** The file, read if it is not kept yet; null if it is neither kept nor on disk. */
 	FConfigFile* Find(const FString& InFilename);

@@ -23,7 +23,7 @@ protected:
 	FString ReadFile() const { return Project.Read(TEXT("Config.ini")); }
 
 	const FTempProject Project;
-	const FString File = FPaths::ProjectDir() + TEXT("/Config.ini");
+	const FString File = FConfigCacheIni::NormalizeConfigIniPath(FPaths::ProjectDir() + TEXT("/Config.ini"));
 };
 }
 
@@ -91,6 +91,29 @@ TEST_F(ConfigCacheIni, FileThatAppearsAfterAFruitlessReadIsSeen)
 	EXPECT_EQ(Get(TEXT("A")), FString(TEXT("here")));
 }
 
+TEST_F(ConfigCacheIni, NameIsNormalisedBySlashes)
+{
+	EXPECT_EQ(FConfigCacheIni::NormalizeConfigIniPath(TEXT("/P//KX\\Config.ini")), FString(TEXT("/P/KX/Config.ini")));
+	EXPECT_EQ(FConfigCacheIni::NormalizeConfigIniPath(TEXT("../P/KX.ini")), FString(TEXT("../P/KX.ini")));
+}
+
+// Files are known by normalised names only; who asks under another one has an entry of its own, which no flush finds.
+TEST_F(ConfigCacheIni, AnotherSpellingOfAFileIsAnotherEntryThatFlushMisses)
+{
+	const FString Spelled = FPaths::ProjectDir() + TEXT("/Config.ini");
+	ASSERT_TRUE(Spelled.Contains(TEXT("//")));
+	WriteFile(TEXT("[Settings]\nA=1\n"));
+
+	GConfig->SetString(TEXT("Settings"), TEXT("A"), TEXT("2"), Spelled);
+
+	EXPECT_EQ(Get(TEXT("A")), FString(TEXT("1")));
+	GConfig->Flush(true, Spelled);
+	EXPECT_EQ(ReadFile(), FString(TEXT("[Settings]\nA=1\n")));
+	FString Kept;
+	EXPECT_TRUE(GConfig->GetString(TEXT("Settings"), TEXT("A"), Kept, Spelled));
+	EXPECT_EQ(Kept, FString(TEXT("2")));
+}
+
 TEST_F(ConfigCacheIni, FlushWritesOnlyWhatWasChanged)
 {
 	WriteFile(TEXT("; a comment\n[Settings]\nA=1\n"));
@@ -112,7 +135,7 @@ TEST_F(ConfigCacheIni, WriteRendersTheWholeFileInItsOrderWithoutComments)
 
 TEST_F(ConfigCacheIni, WriteMakesMissingFolders)
 {
-	const FString Deep = FPaths::ProjectDir() + TEXT("/KX/Kestrix/Config/Config.ini");
+	const FString Deep = Project.Path(TEXT("KX/Kestrix/Config/Config.ini"));
 	GConfig->SetString(TEXT("Settings"), TEXT("A"), TEXT("1"), Deep);
 	GConfig->Flush(true, Deep);
 	EXPECT_EQ(Project.Read(TEXT("KX/Kestrix/Config/Config.ini")), FString(TEXT("[Settings]\nA=1\n\n")));

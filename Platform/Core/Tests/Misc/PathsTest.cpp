@@ -43,12 +43,12 @@ TEST(Paths, ProjectFileWithoutFolderLiesInTheStartFolder)
 	EXPECT_EQ(FPaths::ProjectDir(), FString(TEXT("./")));
 }
 
-TEST(Paths, FullPathFoldsDoubledSlashesAndDots)
+TEST(Paths, FullPathFoldsDotsAndLeavesDoubledSlashes)
 {
-	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("/P//KX/./UI/../Config//")), FString(TEXT("/P/KX/Config/")));
+	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("/P//KX/./UI/../Config//")), FString(TEXT("/P//KX/Config//")));
 	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("/A"), TEXT("../B/C.json")), FString(TEXT("/B/C.json")));
 	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("X.json")), FString(FPlatformProcess::BaseDir()) + TEXT("X.json"));
-	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("//")), FString(TEXT("/")));
+	EXPECT_EQ(FPaths::ConvertRelativePathToFull(TEXT("//")), FString(TEXT("//")));
 }
 
 TEST(Paths, FullPathResolvesNoLinks)

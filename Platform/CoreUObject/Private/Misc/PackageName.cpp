@@ -25,9 +25,17 @@ FString WithSlash(const FString& Text)
 	return Text.EndsWith(TEXT("/")) ? Text : Text + TEXT("/");
 }
 
+/** In one spelling, so that names are found by their texts. */
+FString FullName(const FString& Path)
+{
+	FString Full = FPaths::ConvertRelativePathToFull(Path);
+	FPaths::RemoveDuplicateSlashes(Full);
+	return Full;
+}
+
 FString FullFolder(const FString& Path)
 {
-	return WithSlash(FPaths::ConvertRelativePathToFull(Path));
+	return WithSlash(FullName(Path));
 }
 
 bool Refuse(FText* OutReason, const FString& Reason)
@@ -82,7 +90,7 @@ bool FPackageName::TryConvertLongPackageNameToFilename(
 bool FPackageName::TryConvertFilenameToLongPackageName(
 	const FString& InFilename, FString& OutPackageName, FString* OutFailureReason)
 {
-	const FString Filename = FPaths::ConvertRelativePathToFull(InFilename);
+	const FString Filename = FullName(InFilename);
 	for (const FMountPoint& Point : MountPoints())
 	{
 		if (Filename.StartsWith(Point.Folder))
