@@ -74,6 +74,22 @@ def test_own_window_ends_with_its_last_tab(tool):
         Driver.screenshot("Alone", "Saved/alone.png")
 
 
+def test_data_path_of_a_package_in_the_project_is_found(tool, log):
+    content = PYTHON_FOLDER.parents[2] / "Content"
+    content.mkdir(exist_ok=True)
+    (content / "Mine.uasset").write_text("")
+    tool(label("x"), VelmoraData="/Game/Mine")
+    assert log.errors("PythonKX") == []
+
+
+def test_data_path_that_is_no_package_is_an_error(tool, log):
+    tool(label("x"), VelmoraData="/Game/NotThere")
+    assert log.errors("PythonKX") == [
+        "Json File can't find: VelmoraData, Default data used. @ /Game/NotThere",
+        "Get VelmoraDataPath failed /Game/NotThere",
+    ]
+
+
 def test_window_without_a_tab_says_what_to_do(tools):
     assert not Driver.is_visible(WINDOW, "STextBlock", HINT)
     for each in tools:

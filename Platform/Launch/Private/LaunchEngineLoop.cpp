@@ -18,6 +18,7 @@
 #include "Misc/CoreMisc.h"
 #include "Misc/OutputDeviceFile.h"
 #include "Misc/OutputDeviceStdOutput.h"
+#include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "TerminalReport.h"
@@ -57,6 +58,17 @@ TArray<FString> GetCommandsOfCommandLine()
 bool IsQuit(const FString& Input)
 {
 	return Input == TEXT("quit") || Input == TEXT("exit") || Input == TEXT("QUIT_EDITOR");
+}
+
+/** Makes the packages of the engine, the project and its plugins known by their names. */
+void MountContent()
+{
+	FPackageName::RegisterMountPoint(TEXT("/Engine/"), FPaths::EngineContentDir());
+	FPackageName::RegisterMountPoint(TEXT("/Game/"), FPaths::ProjectContentDir());
+	for (const TSharedRef<IPlugin>& Plugin : IPluginManager::Get().GetEnabledPluginsWithContent())
+	{
+		FPackageName::RegisterMountPoint(Plugin->GetMountedAssetPath(), Plugin->GetContentDir());
+	}
 }
 
 void RunConsoleInput(const FString& Input)
@@ -129,6 +141,7 @@ void FEngineLoop::Init()
 	FModuleManager& Modules = FModuleManager::Get();
 	Modules.LoadModule(TEXT("CoreUObject"));
 	Modules.StartProcessingNewlyLoadedObjects();
+	MountContent();
 
 	FSlateApplication::Create();
 	FApp::SetUseFixedTimeStep(!FSlateApplication::Get().GetPlatformApplication()->HasVisibleWindows());

@@ -11,6 +11,7 @@ bool FPluginDescriptor::Load(const FString& FileName, FText& OutFailReason)
 			Reader.Read(TEXT("VersionName"), VersionName);
 			Reader.Read(TEXT("FriendlyName"), FriendlyName);
 			Reader.Read(TEXT("Description"), Description);
+			Reader.Read(TEXT("CanContainContent"), bCanContainContent);
 			if (Root.HasField(TEXT("EnabledByDefault")))
 			{
 				bool bEnabled = false;

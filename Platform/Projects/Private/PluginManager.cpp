@@ -31,6 +31,16 @@ FString FPlugin::GetContentDir() const
 	return GetBaseDir() / TEXT("Content");
 }
 
+bool FPlugin::CanContainContent() const
+{
+	return GetDescriptor().bCanContainContent;
+}
+
+FString FPlugin::GetMountedAssetPath() const
+{
+	return TEXT("/") + GetName() + TEXT("/");
+}
+
 bool FPlugin::IsEnabledByDefault() const
 {
 	if (Descriptor.EnabledByDefault == EPluginEnabledByDefault::Unspecified)
@@ -147,6 +157,11 @@ TSharedPtr<IPlugin> FPluginManager::FindPlugin(const FString& Name)
 	SearchIfNeeded();
 	const TSharedRef<FPlugin>* const Plugin = Plugins.Find(Name);
 	return Plugin ? TSharedPtr<IPlugin>(*Plugin) : nullptr;
+}
+
+TArray<TSharedRef<IPlugin>> FPluginManager::GetEnabledPluginsWithContent()
+{
+	return GetEnabledPlugins().FilterByPredicate([](const TSharedRef<IPlugin>& Plugin) { return Plugin->CanContainContent(); });
 }
 
 TArray<TSharedRef<IPlugin>> FPluginManager::GetEnabledPlugins()

@@ -14,6 +14,8 @@ public:
 
 	virtual FString GetBaseDir() const override;
 	virtual FString GetContentDir() const override;
+	virtual bool CanContainContent() const override;
+	virtual FString GetMountedAssetPath() const override;
 
 	virtual bool IsEnabled() const override { return bEnabled; }
 
@@ -38,6 +40,7 @@ public:
 	virtual void RefreshPluginsList() override;
 	virtual TSharedPtr<IPlugin> FindPlugin(const FString& Name) override;
 	virtual TArray<TSharedRef<IPlugin>> GetEnabledPlugins() override;
+	virtual TArray<TSharedRef<IPlugin>> GetEnabledPluginsWithContent() override;
 	virtual TArray<TSharedRef<IPlugin>> GetDiscoveredPlugins() override;
 	virtual bool LoadModulesForEnabledPlugins(ELoadingPhase::Type LoadingPhase) override;
 

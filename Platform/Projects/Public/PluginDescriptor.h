@@ -18,6 +18,10 @@ struct PROJECTS_API FPluginDescriptor
 	FString FriendlyName;
 	FString Description;
 	EPluginEnabledByDefault EnabledByDefault = EPluginEnabledByDefault::Unspecified;
+
+	/** Whether its folder "Content" holds packages. */
+	bool bCanContainContent = false;
+
 	TArray<FModuleDescriptor> Modules;
 	TArray<FPluginReferenceDescriptor> Plugins;
 

@@ -269,3 +269,18 @@ TEST_F(PluginManager, LibraryOfAnEnabledPluginIsFoundInItsBinaries)
 	Manager.RefreshPluginsList();
 	EXPECT_TRUE(FModuleManager::Get().ModuleExists(TEXT("ToolLibrary")));
 }
+
+TEST_F(PluginManager, EnabledPluginsWithContentAreThoseWhoseDescriptorSaysSo)
+{
+	WritePlugin(TEXT("With/With.uplugin"), TEXT("{ \"FileVersion\": 3, \"CanContainContent\": true }"));
+	WritePlugin(
+		TEXT("Off/Off.uplugin"), TEXT("{ \"FileVersion\": 3, \"CanContainContent\": true, \"EnabledByDefault\": false }"));
+	WritePlugin(TEXT("Without/Without.uplugin"));
+	Manager.RefreshPluginsList();
+
+	const TArray<TSharedRef<IPlugin>> Plugins = Manager.GetEnabledPluginsWithContent();
+
+	ASSERT_EQ(Plugins.Num(), 1);
+	EXPECT_EQ(Plugins[0]->GetName(), FString(TEXT("With")));
+	EXPECT_EQ(Plugins[0]->GetMountedAssetPath(), FString(TEXT("/With/")));
+}

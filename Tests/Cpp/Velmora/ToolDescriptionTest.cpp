@@ -2,6 +2,7 @@
 
 #include "Dom/JsonObject.h"
 #include "LogCapture.h"
+#include "Misc/PackageName.h"
 #include "TempProject.h"
 
 #include <gtest/gtest.h>
@@ -230,6 +231,23 @@ TEST(DataAndTabLabel, DataPathWithoutAPackageIsReportedAndKept)
 	EXPECT_EQ(DataPath, FString(TEXT("/Game/Nowhere/Data")));
 	EXPECT_EQ(Label, FString(TEXT("My Tool")));
 	EXPECT_EQ(Log.Errors(), FLines({TEXT("Json File can't find: VelmoraData, Default data used. @ /Game/Nowhere/Data")}));
+}
+
+TEST(DataAndTabLabel, DataPathOfAPackageOnDiskIsNoError)
+{
+	const FTempProject Folder;
+	Folder.Write(TEXT("Content/Data.uasset"), "");
+	FPackageName::RegisterMountPoint(TEXT("/DataTest/"), Folder.Path(TEXT("Content")));
+	const FString Path = Folder.Write(TEXT("Tool.json"), R"({ "VelmoraData": "/DataTest/Data" })");
+	const FLogCapture Log(TEXT("PythonKX"));
+	FString DataPath;
+	FString Label;
+
+	EXPECT_TRUE(GetDataAndTabLabel(Path, DataPath, Label));
+
+	EXPECT_EQ(DataPath, FString(TEXT("/DataTest/Data")));
+	EXPECT_EQ(Log.Lines(), FLines());
+	FPackageName::UnRegisterMountPoint(TEXT("/DataTest/"), Folder.Path(TEXT("Content")));
 }
 
 TEST(DataAndTabLabel, EmptyDataPathMeansTheDefaultData)

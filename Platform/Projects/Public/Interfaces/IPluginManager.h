@@ -25,6 +25,12 @@ public:
 	/** The folder "Content" in it, without a slash at its end. */
 	virtual FString GetContentDir() const = 0;
 
+	/** Whether that folder holds packages, as the descriptor says. */
+	virtual bool CanContainContent() const = 0;
+
+	/** The root of the plugin's packages: its name between slashes. */
+	virtual FString GetMountedAssetPath() const = 0;
+
 	virtual bool IsEnabled() const = 0;
 	virtual EPluginLoadedFrom GetLoadedFrom() const = 0;
 	virtual const FPluginDescriptor& GetDescriptor() const = 0;
@@ -51,6 +57,9 @@ public:
 	/** Those that are on, each behind the plugins that it names. */
 	virtual TArray<TSharedRef<IPlugin>> GetEnabledPlugins() = 0;
 	virtual TArray<TSharedRef<IPlugin>> GetDiscoveredPlugins() = 0;
+
+	/** Those of the enabled ones that can contain content. */
+	virtual TArray<TSharedRef<IPlugin>> GetEnabledPluginsWithContent() = 0;
 
 	/**
 	 * Loads the modules of a phase, in the order of GetEnabledPlugins.
