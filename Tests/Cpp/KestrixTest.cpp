@@ -3,6 +3,7 @@
 #include "Framework/Docking/TabManager.h"
 #include "HAL/IConsoleManager.h"
 #include "KestrixLog.h"
+#include "Modules/ModuleManager.h"
 #include "RunningPlugin.h"
 #include "Styling/AppStyle.h"
 #include "ToolTabs.h"
@@ -79,6 +80,28 @@ TEST(KestrixModule, StartMakesTheSettingsReadyAndReadsTheLogFlags)
 	const FRunningPlugin Plugin;
 	EXPECT_FALSE(bLogCreateWidget);
 	EXPECT_TRUE(bLogOnTickWarnings);
+}
+
+TEST(KestrixModule, StartWithoutASlateApplicationMakesSettingsAndNoTabs)
+{
+	const FSettingsProject Project;
+	Project.Write(TEXT("KX/Kestrix/Config/Config.ini"), TEXT("[Advanced]\nLogCreateWidget=True\n"));
+	const FString Path = Project.Write(TEXT("KX/Kestrix/Python/A.json"), TEXT("{ \"Root\": { \"SBox\": {} } }"));
+	FSlateApplication::Shutdown();
+	FModuleManager& Modules = FModuleManager::Get();
+	Modules.RegisterStaticallyLinkedModule("Kestrix", [] { return new FKestrixModule; });
+
+	Modules.LoadModule("Kestrix");
+
+	EXPECT_TRUE(SettingsInitialised);
+	EXPECT_TRUE(bLogCreateWidget);
+	EXPECT_FALSE(FGlobalTabmanager::Get()->HasTabSpawner("PythonToolsTab"));
+	EXPECT_FALSE(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")));
+	EXPECT_EQ(UVelmoraData::SnapshotVelmoraWindow(TEXT("A.json")), FString());
+	EXPECT_FALSE(UVelmoraData::RequestClose(TEXT("A.json")));
+	Modules.UnloadModule("Kestrix");
+	FSlateApplication::Create();
+	bLogCreateWidget = false;
 }
 
 TEST(KestrixModule, StartRunsNoPython)

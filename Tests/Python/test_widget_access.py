@@ -254,7 +254,7 @@ def test_reopened_tool_answers_for_its_new_widgets(tool):
 def test_same_name_twice_means_the_later_widget(tool, log):
     t = tool(vertical(label("first", Aka="A"), label("second", Aka="A")))
     assert t.data.get_text("A") == "second"
-    assert "Key: A Has existed in NamedWidget, Widget: STextBlock @ UVelmoraData_Tool" in log.lines("PythonKX", "Log")
+    assert f"Key: A Has existed in NamedWidget, Widget: STextBlock @ {t.data.get_name()}" in log.lines("PythonKX", "Log")
 
 
 def test_data_is_found_by_the_end_of_its_path_in_any_case(tool):

@@ -11,12 +11,8 @@ void FImageUtils::PNGCompressImageArray(
 	int32 ImageWidth, int32 ImageHeight, const TArrayView64<const FColor>& SrcData, TArray64<uint8>& DstData)
 {
 	DstData.Empty();
-	if (ImageWidth <= 0 || ImageHeight <= 0 || int64(ImageWidth) * ImageHeight != SrcData.Num())
-	{
-		UE_LOG(LogImageUtils, Error, TEXT("No PNG can be made of %d pixels for a picture of %d x %d."), SrcData.Num(), ImageWidth,
-			ImageHeight);
-		return;
-	}
+	check(ImageWidth > 0 && ImageHeight > 0);
+	check(SrcData.Num() == int64(ImageWidth) * ImageHeight);
 
 	png_image Image = {};
 	Image.version = PNG_IMAGE_VERSION;

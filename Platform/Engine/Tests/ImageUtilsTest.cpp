@@ -39,20 +39,10 @@ TEST(ImageUtils, PngHoldsEveryPixelWithItsAlpha)
 	EXPECT_EQ(Height, 2);
 }
 
-TEST(ImageUtils, NumberOfPixelsThatDoesNotFitGivesNoFile)
+TEST(ImageUtilsDeathTest, NumberOfPixelsThatDoesNotFitIsFatal)
 {
-	const FLogCapture Log(TEXT("LogImageUtils"));
 	const TArray<FColor> Pixels = {FColor(255, 0, 0, 255)};
-
-	for (const int32 Width : {0, -1, 2})
-	{
-		TArray64<uint8> File = {1};
-		FImageUtils::PNGCompressImageArray(Width, 1, Pixels, File);
-		EXPECT_EQ(File.Num(), 0) << Width;
-	}
-
-	EXPECT_EQ(Log.Errors(),
-		TArray<FString>({TEXT("No PNG can be made of 1 pixels for a picture of 0 x 1."),
-			TEXT("No PNG can be made of 1 pixels for a picture of -1 x 1."),
-			TEXT("No PNG can be made of 1 pixels for a picture of 2 x 1.")}));
+	TArray64<uint8> File;
+	EXPECT_DEATH(FImageUtils::PNGCompressImageArray(0, 0, {}, File), "ImageWidth > 0");
+	EXPECT_DEATH(FImageUtils::PNGCompressImageArray(2, 1, Pixels, File), "SrcData.Num\\(\\) ==");
 }

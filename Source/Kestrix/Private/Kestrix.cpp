@@ -1,5 +1,7 @@
 #include "Kestrix.h"
 
+#include "AfterFrame.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "HAL/IConsoleManager.h"
 #include "Modules/ModuleManager.h"
@@ -50,6 +52,11 @@ void FKestrixModule::RegisterEditorHooks()
 {
 	ReadLogFlags();
 
+	// A commandlet has no windows, so there is no place for tabs.
+	if (!FSlateApplication::IsInitialized())
+	{
+		return;
+	}
 	const TSharedRef<FGlobalTabmanager> TabManager = FGlobalTabmanager::Get();
 	TabManager->RegisterNomadTabSpawner(ToolsTabId, FOnSpawnTab::CreateStatic(&SpawnToolsTab))
 		.SetDisplayName(LOCTEXT("PythonTools", "Python Tools"))
@@ -60,6 +67,11 @@ void FKestrixModule::RegisterEditorHooks()
 
 void FKestrixModule::UnregisterEditorHooks()
 {
+	DropWorkAfterFrame();
+	if (!ActiveTabChangedHandle.IsValid())
+	{
+		return;
+	}
 	const TSharedRef<FGlobalTabmanager> TabManager = FGlobalTabmanager::Get();
 	TabManager->UnregisterNomadTabSpawner(ToolsTabId);
 	for (const FName TabId : RegisteredToolTabIds)
@@ -71,6 +83,7 @@ void FKestrixModule::UnregisterEditorHooks()
 	// Tools that are still open are not the module's to close; it only lets go of them.
 	OpenToolTabs.Empty();
 	TabManager->OnActiveTabChanged_Unsubscribe(ActiveTabChangedHandle);
+	ActiveTabChangedHandle.Reset();
 }
 
 void FKestrixModule::OnActiveTabChanged(TSharedPtr<SDockTab> Previous, TSharedPtr<SDockTab> New)

@@ -2,7 +2,6 @@
 
 #include "Dom/JsonObject.h"
 #include "Framework/Docking/TabManager.h"
-#include "IPythonScriptPlugin.h"
 #include "Kestrix.h"
 #include "KestrixLog.h"
 #include "Misc/PackageName.h"
@@ -21,6 +20,9 @@ TMap<FString, FString> MapChangeCommands;
 namespace
 {
 const TCHAR* const DefaultTabLabel = TEXT("Python Velmora Tools");
+
+/** The tools whose spawners are running. The tab of such a tool is not live yet: asking for it would spawn another. */
+TArray<FName> ToolsBeingSpawned;
 
 /** Tells where a tool's data object comes from; what names no package is passed on all the same, and counts as nothing later. */
 void ReportDataPath(const FString& DataPath)
@@ -59,9 +61,9 @@ void OnToolTabClosed(TSharedRef<SDockTab> Tab, FString JsonPath)
 	if (GetOnClosePyCmd(JsonPath, Command))
 	{
 		TRACE_CPUPROFILER_EVENT_SCOPE_STR(TEXT("OnClosePyCmd"));
-		GetPythonScriptPlugin()->ExecPythonCommand(*Command);
+		RunPythonCommand(Command);
 	}
-	FKestrixModule::RemoveOpenToolTab(FName(*JsonPath));
+	FKestrixModule::RemoveOpenToolTab(NameOfText(JsonPath));
 }
 }
 
@@ -83,6 +85,27 @@ void OpenToolInNewWindow(FName TabId, const FVector2D& Size, const FVector2D& Po
 	{
 		TabManager->DrawAttention(Tab.ToSharedRef());
 	}
+}
+
+bool OpenTool(FName TabId, const FVector2D& Size, const FVector2D& Position, const FString& ToolsPath)
+{
+	const bool bInWindow = Size.X > 0.0;
+	if (ToolsBeingSpawned.Contains(TabId))
+	{
+		UE_LOG(PythonKX, Warning, TEXT("Tool %s is opening already; its own opening asked for it again."), *ToolsPath);
+		return !bInWindow;
+	}
+	if (bInWindow)
+	{
+		OpenToolInNewWindow(TabId, Size, Position, NameOfText(ToolsPath));
+		return false;
+	}
+	if (Position.X > 0.0)
+	{
+		UE_LOG(PythonKX, Warning, TEXT("TabPosition Not Implemented yet %s"), *ToolsPath);
+	}
+	FGlobalTabmanager::Get()->TryInvokeTab(FTabId(TabId));
+	return true;
 }
 
 void LogRegisteredTools(FName TabName)
@@ -125,12 +148,15 @@ bool FKestrixModule::RegisterToolTab(const FString& JsonPath, FName& OutTabId, F
 
 TSharedRef<SDockTab> FKestrixModule::SpawnToolTab(const FSpawnTabArgs& Args, FString JsonPath, FString DataPath)
 {
+	const FName TabId = NameOfText(JsonPath);
+	ToolsBeingSpawned.Add(TabId);
 	const TSharedRef<SVelmoraWidget> Tool =
 		SNew(SVelmoraWidget).JsonPath(JsonPath).DataObj(GetToolsDataInstance(JsonPath, DataPath));
 
 	const TSharedRef<SDockTab> Tab =
 		SNew(SDockTab).TabRole(ETabRole::NomadTab).OnTabClosed_Static(&OnToolTabClosed, JsonPath)[Tool];
 	InitPyTool(JsonPath);
+	ToolsBeingSpawned.Remove(TabId);
 	OpenToolTabs.AddUnique(Tab);
 	return Tab;
 }
@@ -148,7 +174,7 @@ void FKestrixModule::InitPyTool(const FString& JsonPath)
 	UE_LOG(PythonKX, Log, TEXT("InitPyCmd: %s"), *Command);
 	{
 		TRACE_CPUPROFILER_EVENT_SCOPE_STR(TEXT("InitPyCmd"));
-		GetPythonScriptPlugin()->ExecPythonCommand(*Command);
+		RunPythonCommand(Command);
 	}
 	RecordMapChangeCommand(JsonPath);
 }

@@ -21,5 +21,14 @@ bool IsSameTool(FName A, FName B);
 /** Opens a registered tool in a window of its own and draws attention to it; a tool that is open stays where it is. */
 void OpenToolInNewWindow(FName TabId, const FVector2D& Size, const FVector2D& Position, FName LayoutName);
 
+/**
+ * Opens a registered tool: in a window of its own if it asks for a size, else as a tab. One that is open comes to the front; one that
+ * is just being opened, by whose own commands this is called, is left alone with a warning.
+ *
+ * @param ToolsPath  As the caller named the tool.
+ * @return False if the tool opens in a window.
+ */
+bool OpenTool(FName TabId, const FVector2D& Size, const FVector2D& Position, const FString& ToolsPath);
+
 /** Warns of each registered tool, for an author who looks for one that is not there. */
 void LogRegisteredTools(FName TabName);

@@ -41,7 +41,7 @@ bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, 
 
 	TArray<FColor> Colors;
 	FIntVector OutSize(0, 0, 0);
-	Application.TakeScreenshot(Window, Colors, OutSize);
+	const bool bTaken = Application.TakeScreenshot(Window, Colors, OutSize);
 	UE_LOG(PythonKX, Log, TEXT("OutSizeB: %d, %d"), OutSize.X, OutSize.Y);
 
 	// The widget goes before its window does, so that it stands for itself again and is laid out anew.
@@ -55,9 +55,20 @@ bool FKestrixModule::SnapshotWidget(TSharedPtr<SWidget> Widget, FVector2D Size, 
 	{
 		ActiveWindow->BringToFront();
 	}
-	Application.SetKeyboardFocus(FocusedWidget);
+	if (FocusedWidget.IsValid())
+	{
+		Application.SetKeyboardFocus(FocusedWidget);
+	}
+	else
+	{
+		Application.ClearKeyboardFocus();
+	}
 	UE_LOG(PythonKX, Log, TEXT("WindowSize: %f %f  vs OutSize: %d, %d"), Size.X, Size.Y, OutSize.X, OutSize.Y);
 
+	if (!bTaken || Colors.Num() == 0)
+	{
+		return false;
+	}
 	TArray64<uint8> Compressed;
 	FImageUtils::PNGCompressImageArray(OutSize.X, OutSize.Y, Colors, Compressed);
 	return FFileHelper::SaveArrayToFile(Compressed, *FilePath);

@@ -21,6 +21,8 @@ using FLines = TArray<FString>;
 
 const FString EmptyTool = ToolWithRoot("{ \"SBox\": {} }");
 
+const char* const TickingRoot = "{ \"SBox\": { \"OnTick\": \"tick()\" } }";
+
 FString Warning(const FString& Text)
 {
 	return TEXT("PythonKX: Warning: ") + Text;
@@ -179,7 +181,7 @@ TEST(LaunchVelmoraTool, SizeOpensAWindowOfItsOwnAndGivesFalse)
 	EXPECT_EQ(OpenToolTabs.Num(), 1);
 }
 
-TEST(LaunchVelmoraTool, SizeWithoutAPositionLeavesThePlaceToTheTabManager)
+TEST(LaunchVelmoraTool, SizeWithoutAPositionOpensAtTheCornerOfTheScreen)
 {
 	FRunningPlugin Plugin;
 	const FString Path = Plugin.WriteTool(TEXT("A.json"), R"({ "InitTabSize": [300, 200], "Root": { "SBox": {} } })");
@@ -192,8 +194,7 @@ TEST(LaunchVelmoraTool, SizeWithoutAPositionLeavesThePlaceToTheTabManager)
 
 	UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
 
-	// The tab manager centres a window whose position is negative.
-	EXPECT_EQ(FindTab(Path)->GetParentWindow()->GetPositionInScreen(), FVector2D((1920.0 - 300.0) / 2.0, (1080.0 - 200.0) / 2.0));
+	EXPECT_EQ(FindTab(Path)->GetParentWindow()->GetPositionInScreen(), FVector2D(0.0, 0.0));
 }
 
 TEST(LaunchVelmoraTool, OpenWindowStaysOneAtASecondLaunch)
@@ -226,6 +227,83 @@ TEST(LaunchVelmoraTool, SecondLaunchBringsTheWindowToTheFront)
 
 	EXPECT_TRUE(A->IsActive());
 	EXPECT_EQ(FSlateApplication::Get().GetActiveTopLevelWindow(), A->GetParentWindow());
+}
+
+TEST(LaunchVelmoraTool, TickOpensTheToolAfterTheFrame)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("Ticker.json"), ToolWithRoot(TickingRoot));
+	const FString Path = Plugin.WriteTool(TEXT("Other.json"), EmptyTool);
+	Plugin.WriteTool(TEXT("Broken.json"), TEXT("{"));
+	TArray<bool> Answers;
+	bool bLiveAtOnce = true;
+	Plugin.Python.SetOnCommand(
+		[&]
+		{
+			if (Answers.Num() == 0)
+			{
+				for (const TCHAR* const Tool : {TEXT("Other.json"), TEXT("Broken.json"), TEXT("None.json")})
+				{
+					Answers.Add(UVelmoraData::LaunchVelmoraTool(Tool));
+				}
+				bLiveAtOnce = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FName(*Path))).IsValid();
+			}
+		});
+
+	Plugin.Window.Frame();
+
+	EXPECT_EQ(Answers, TArray<bool>({true, false, false}));
+	EXPECT_FALSE(bLiveAtOnce);
+	EXPECT_EQ(FindTab(Path)->GetParentWindow().Get(), &Plugin.Window.GetWindow());
+}
+
+TEST(LaunchVelmoraTool, TickOpensNothingAfterTheEndOfTheModule)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("Ticker.json"), ToolWithRoot(TickingRoot));
+	Plugin.WriteTool(TEXT("Other.json"), EmptyTool);
+	Plugin.Python.SetOnCommand(
+		[&]
+		{
+			UVelmoraData::LaunchVelmoraTool(TEXT("Other.json"));
+			Plugin.Python.SetOnCommand(nullptr);
+			Plugin.EndModule();
+		});
+
+	Plugin.Window.Frame();
+
+	EXPECT_EQ(OpenToolTabs.Num(), 0);
+}
+
+TEST(LaunchVelmoraTool, ToolThatItsOwnStartAsksForAgainOpensOnceWithAWarning)
+{
+	for (const TCHAR* const Size : {TEXT(""), TEXT("\"InitTabSize\": [300, 200],")})
+	{
+		FRunningPlugin Plugin;
+		const FString Path = Plugin.WriteTool(
+			TEXT("A.json"), FString::Printf(TEXT("{ %s \"InitPyCmd\": \"again()\", \"Root\": { \"SBox\": {} } }"), Size));
+		bool bAnswer = false;
+		Plugin.Python.SetOnCommand([&bAnswer] { bAnswer = UVelmoraData::LaunchVelmoraTool(TEXT("A.json")); });
+		const FLogCapture Lines(TEXT("PythonKX"));
+
+		EXPECT_EQ(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")), bAnswer);
+
+		EXPECT_EQ(Lines.Warnings(), FLines({TEXT("Tool A.json is opening already; its own opening asked for it again.")}));
+		EXPECT_EQ(OpenToolTabs.Num(), 1);
+		EXPECT_EQ(Plugin.Python.Take(), FLines({TEXT("again()")}));
+	}
+}
+
+TEST(LaunchVelmoraTool, RegisteredToolThatNoLongerParsesOpensItsTabWithTheReason)
+{
+	FRunningPlugin Plugin;
+	Plugin.Launch(TEXT("A.json"), EmptyTool);
+	UVelmoraData::RequestClose(TEXT("A.json"));
+	Plugin.WriteTool(TEXT("A.json"), TEXT("{ nonsense"));
+
+	EXPECT_TRUE(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")));
+
+	EXPECT_EQ(OpenToolTabs.Num(), 1);
 }
 
 //
@@ -425,16 +503,61 @@ TEST(SnapshotVelmoraWindow, GivenSizeMayBeLargerThanTheScreen)
 	EXPECT_EQ(Tool.Plugin.Window.GetWindow().GetClientSizeInScreen(), FVector2D(640.0, 480.0));
 }
 
-TEST(SnapshotVelmoraWindow, RelativeFileNameIsMadeFull)
+TEST(SnapshotVelmoraWindow, RelativeFileNameCountsFromTheProject)
 {
 	FSnapshotTool Tool;
-	const FString Relative = TEXT("../") + FPaths::GetBaseFilename(Tool.Plugin.Project.GetDir()) + TEXT("/A.png");
 
-	const FString Path = UVelmoraData::SnapshotVelmoraWindow(TEXT("Dir/A.json"), FVector2D::ZeroVector, Relative);
+	const FString Path = UVelmoraData::SnapshotVelmoraWindow(TEXT("Dir/A.json"), FVector2D::ZeroVector, TEXT("Pictures//A.png"));
 
-	EXPECT_EQ(Path, FPaths::ConvertRelativePathToFull(Relative));
+	EXPECT_EQ(Path, Tool.Plugin.Project.Path(TEXT("Pictures/A.png")));
 	EXPECT_EQ(SizeOfPng(Path), FIntPoint(640, 480));
-	IFileManager::Get().DeleteDirectory(*FPaths::GetPath(Path), false, true);
+}
+
+TEST(SnapshotVelmoraWindow, WindowWithoutPixelsGivesAnEmptyText)
+{
+	FRunningPlugin Plugin;
+	const TSharedRef<SDockTab> Tab = SNew(SDockTab);
+	const TSharedRef<SWindow> NeverShown = SNew(SWindow)[Tab];
+	OpenToolTabs.Add(Tab);
+	const FString ToolsPath = Tab->GetLayoutIdentifier().ToString();
+	ASSERT_EQ(FSlateApplication::Get().FindWidgetWindow(Tab), NeverShown);
+
+	EXPECT_EQ(UVelmoraData::SnapshotVelmoraWindow(ToolsPath), FString());
+}
+
+TEST(SnapshotVelmoraWindow, NothingIsFocusedAfterwardsIfNothingWas)
+{
+	FSnapshotTool Tool;
+	FSlateApplication::Get().ClearKeyboardFocus();
+	const FLogCapture Lines(TEXT("LogOutputDevice"));
+
+	UVelmoraData::SnapshotVelmoraWindow(TEXT("Dir/A.json"));
+
+	EXPECT_FALSE(FSlateApplication::Get().GetKeyboardFocusedWidget().IsValid());
+	EXPECT_EQ(Lines.Errors(), FLines());
+}
+
+TEST(SnapshotVelmoraWindow, TickGetsThePathAtOnceAndThePictureAfterTheFrame)
+{
+	FRunningPlugin Plugin;
+	FString Path;
+	bool bThereAtOnce = true;
+	Plugin.Launch(TEXT("A.json"), ToolWithRoot(TickingRoot));
+	Plugin.Python.SetOnCommand(
+		[&]
+		{
+			if (Path.IsEmpty())
+			{
+				Path = UVelmoraData::SnapshotVelmoraWindow(TEXT("A.json"), FVector2D(320.0, 240.0), TEXT("Tick.png"));
+				bThereAtOnce = FPaths::FileExists(Path);
+			}
+		});
+
+	Plugin.Window.Frame();
+
+	EXPECT_EQ(Path, Plugin.Project.Path(TEXT("Tick.png")));
+	EXPECT_FALSE(bThereAtOnce);
+	EXPECT_EQ(SizeOfPng(Path), FIntPoint(320, 240));
 }
 
 TEST(SnapshotVelmoraWindow, FileThatCannotBeWrittenGivesAnEmptyText)

@@ -1,6 +1,6 @@
 #include "Velmora/EventCommands.h"
 
-#include "IPythonScriptPlugin.h"
+#include "AfterFrame.h"
 #include "KestrixLog.h"
 #include "PythonCommand.h"
 #include "ToolsSettings.h"
@@ -12,7 +12,7 @@ namespace
 /** By value: the command may end the widget, and with it the handler that holds the text. */
 void RunCommand(FString Command)
 {
-	GetPythonScriptPlugin()->ExecPythonCommand(*Command);
+	RunPythonCommand(Command);
 }
 
 /** For events of one value: each "%" of the template is the value, the operator "%" of Python included. */
@@ -79,6 +79,7 @@ FWidgetActiveTimerDelegate MakeTickHandler(const FString& Command)
 			{
 				UE_LOG(Velmora, Warning, TEXT("Velmora tick: %f, don't abuse it."), DeltaTime);
 			}
+			const FWidgetTickScope Scope;
 			RunCommand(Command);
 			return EActiveTimerReturnType::Continue;
 		});

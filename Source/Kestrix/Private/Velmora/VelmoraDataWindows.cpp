@@ -1,5 +1,6 @@
 #include "Velmora/VelmoraData.h"
 
+#include "AfterFrame.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "HAL/PlatformTime.h"
@@ -9,6 +10,7 @@
 #include "Misc/Paths.h"
 #include "NameOfText.h"
 #include "ToolTabs.h"
+#include "ToolsSettings.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
@@ -22,6 +24,24 @@ FString MakeSnapshotPath(const FString& ToolsPath)
 	const FString Stamp = FString::Printf(TEXT("_%04d%02d%02d_%02d%02d%02d"), Year, Month, Day, Hour, Minute, Second);
 	return FPaths::ScreenShotDir() / TEXT("KestrixVelmoraUI") / (FPaths::GetBaseFilename(ToolsPath) + Stamp + TEXT(".png"));
 }
+
+/** @param Size  Of the picture; (0, 0) for the window's own. */
+bool SaveSnapshot(const TSharedPtr<SWindow>& Window, FVector2D Size, const FString& ImageFilePath)
+{
+	TArray<FColor> Pixels;
+	FIntVector OutSize(0, 0, 0);
+	if (!Window.IsValid() || !FSlateApplication::Get().TakeScreenshot(Window.ToSharedRef(), Pixels, OutSize))
+	{
+		return false;
+	}
+	if (Size == FVector2D::ZeroVector)
+	{
+		Size = FVector2D(OutSize.X, OutSize.Y);
+	}
+	const bool bSaved = FKestrixModule::SnapshotWidget(Window, Size, ImageFilePath);
+	UE_LOG(PythonKX, Log, TEXT("SnapshotVelmora OutSize: %d, %d @ %s"), OutSize.X, OutSize.Y, *ImageFilePath);
+	return bSaved;
+}
 }
 
 bool UVelmoraData::LaunchVelmoraTool(const FString& ToolsPath)
@@ -32,6 +52,11 @@ bool UVelmoraData::LaunchVelmoraTool(const FString& ToolsPath)
 		UE_LOG(PythonKX, Warning, TEXT("File: %s not exist. LaunchVemloraTool by: %s"), *ToolsPath, *FullPath);
 		return false;
 	}
+	if (!FSlateApplication::IsInitialized())
+	{
+		UE_LOG(PythonKX, Warning, TEXT("File: %s is not launched, there are no windows here."), *ToolsPath);
+		return false;
+	}
 
 	FName TabId;
 	FVector2D Size = FVector2D::ZeroVector;
@@ -40,17 +65,12 @@ bool UVelmoraData::LaunchVelmoraTool(const FString& ToolsPath)
 	{
 		return false;
 	}
-	if (Size.X > 0.0)
+	if (FWidgetTickScope::IsInside())
 	{
-		OpenToolInNewWindow(TabId, Size, Position, NameOfText(ToolsPath));
-		return false;
+		RunAfterFrame([TabId, Size, Position, ToolsPath] { OpenTool(TabId, Size, Position, ToolsPath); });
+		return true;
 	}
-	if (Position.X > 0.0)
-	{
-		UE_LOG(PythonKX, Warning, TEXT("TabPosition Not Implemented yet %s"), *ToolsPath);
-	}
-	FGlobalTabmanager::Get()->TryInvokeTab(FTabId(TabId));
-	return true;
+	return OpenTool(TabId, Size, Position, ToolsPath);
 }
 
 bool UVelmoraData::RequestClose(const FString& ToolsPath)
@@ -90,22 +110,20 @@ FString UVelmoraData::SnapshotVelmoraWindow(const FString& ToolsPath, FVector2D 
 	{
 		return FString();
 	}
-	TArray<FColor> Pixels;
-	FIntVector Size(0, 0, 0);
-	FSlateApplication::Get().TakeScreenshot(Window.ToSharedRef(), Pixels, Size);
-	if (OverrideWindowSize == FVector2D::ZeroVector)
-	{
-		OverrideWindowSize = FVector2D(Size.X, Size.Y);
-	}
 	if (ImageFilePath.IsEmpty())
 	{
 		ImageFilePath = MakeSnapshotPath(ToolsPath);
 	}
 	if (FPaths::IsRelative(ImageFilePath))
 	{
-		ImageFilePath = FPaths::ConvertRelativePathToFull(ImageFilePath);
+		ImageFilePath = MakeFullPath(FPaths::ProjectDir() / ImageFilePath);
 	}
-	const bool bSaved = FKestrixModule::SnapshotWidget(Window, OverrideWindowSize, ImageFilePath);
-	UE_LOG(PythonKX, Log, TEXT("SnapshotVelmora OutSize: %d, %d @ %s"), Size.X, Size.Y, *ImageFilePath);
-	return bSaved ? ImageFilePath : FString();
+	if (FWidgetTickScope::IsInside())
+	{
+		const TWeakPtr<SWindow> WeakWindow = Window;
+		RunAfterFrame([WeakWindow, OverrideWindowSize, ImageFilePath]
+			{ SaveSnapshot(WeakWindow.Pin(), OverrideWindowSize, ImageFilePath); });
+		return ImageFilePath;
+	}
+	return SaveSnapshot(Window, OverrideWindowSize, ImageFilePath) ? ImageFilePath : FString();
 }

@@ -18,10 +18,9 @@ bool FSlateApplication::HasFocusedDescendants(const TSharedRef<const SWidget>& W
 
 bool FSlateApplication::SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging)
 {
-	if (!OptionalWidgetToFocus.IsValid())
+	if (!ensureMsgf(OptionalWidgetToFocus.IsValid(), TEXT("There is no widget to focus; ClearKeyboardFocus drops the focus.")))
 	{
-		ClearKeyboardFocus(ReasonFocusIsChanging);
-		return true;
+		return false;
 	}
 	const FWidgetPath Path = FWidgetPath::To(OptionalWidgetToFocus.ToSharedRef());
 	return Path.IsValid() && OptionalWidgetToFocus->SupportsKeyboardFocus() && SetFocusToPath(Path, ReasonFocusIsChanging);

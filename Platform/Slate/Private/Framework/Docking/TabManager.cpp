@@ -51,7 +51,7 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 	}
 	const TSharedPtr<SDockingTabStack> Primary = PrimaryStack.Pin();
 	const TSharedRef<SDockingTabStack> Stack =
-		Primary.IsValid() ? Primary.ToSharedRef() : MakeStackInNewWindow(DefaultWindowSize, FVector2D(-1.0, -1.0), false);
+		Primary.IsValid() ? Primary.ToSharedRef() : MakeStackInNewWindow(DefaultWindowSize, TOptional<FVector2D>(), false);
 	return SpawnTab(TabId, Stack);
 }
 
@@ -63,12 +63,6 @@ TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef
 		UE_LOG(LogTabManager, Warning, TEXT("There is no tab spawner for '%s'."), *TabId.ToString());
 		return nullptr;
 	}
-	if (TabsBeingSpawned.Contains(TabId.ToString()))
-	{
-		UE_LOG(LogTabManager, Warning, TEXT("'%s' is opening already; its own opening asked for it again."), *TabId.ToString());
-		return nullptr;
-	}
-
 	// The spawner runs code of others, which may unregister it.
 	const FTabSpawnerEntry Entry = **Registered;
 	const FText DisplayName = Entry.GetDisplayName();
@@ -76,9 +70,7 @@ TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef
 		[&] { return FString::Printf(TEXT("opening of tab \"%s\""), *DisplayName.ToString()); });
 
 	const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Stack);
-	TabsBeingSpawned.Add(TabId.ToString());
 	const TSharedRef<SDockTab> Tab = Entry.OnSpawnTab.Execute(FSpawnTabArgs(Window, TabId));
-	TabsBeingSpawned.Remove(TabId.ToString());
 	Tab->SetLayoutIdentifier(TabId);
 	if (!Tab->bHasLabel)
 	{
@@ -162,14 +154,14 @@ void FTabManager::OpenAreaWindow(const FArea& Area)
 	}
 }
 
-TSharedRef<SDockingTabStack> FTabManager::MakeStackInNewWindow(const FVector2D& Size, const FVector2D& Position, bool bMaximized)
+TSharedRef<SDockingTabStack> FTabManager::MakeStackInNewWindow(
+	const FVector2D& Size, const TOptional<FVector2D>& Position, bool bMaximized)
 {
-	const bool bPlaced = Position.X >= 0.0 && Position.Y >= 0.0;
 	const TSharedRef<SDockingTabStack> Stack = SNew(SDockingTabStack);
 	const TSharedRef<SWindow> Window = SNew(SWindow)
 										   .ClientSize(FVector2D(FMath::Max(Size.X, 1.0), FMath::Max(Size.Y, 1.0)))
-										   .AutoCenter(bPlaced ? EAutoCenter::None : EAutoCenter::PrimaryWorkArea)
-										   .ScreenPosition(Position)[Stack];
+										   .AutoCenter(Position.IsSet() ? EAutoCenter::None : EAutoCenter::PrimaryWorkArea)
+										   .ScreenPosition(Position.Get(FVector2D::ZeroVector))[Stack];
 	Stack->SetOwnWindow(Window);
 	FSlateApplication::Get().AddWindow(Window);
 	if (bMaximized && Window->GetNativeWindow().IsValid())

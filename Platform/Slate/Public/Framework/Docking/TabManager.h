@@ -125,7 +125,7 @@ public:
 	class SLATE_API FArea : public TSharedFromThis<FArea>
 	{
 	public:
-		/** @param InPosition Desktop pixels; a negative one lets the window be centred. */
+		/** @param InPosition Desktop pixels. One outside the work area is moved to its edge: (-1, -1) is the corner of the screen. */
 		TSharedRef<FArea> SetWindow(FVector2D InPosition, bool bInIsMaximized);
 		TSharedRef<FArea> Split(const TSharedRef<FStack>& InStack);
 
@@ -133,7 +133,8 @@ public:
 		friend class FTabManager;
 
 		FVector2D Size = FVector2D::ZeroVector;
-		FVector2D WindowPosition = FVector2D(-1.0, -1.0);
+		/** Unset, the window is centred. */
+		TOptional<FVector2D> WindowPosition;
 		TArray<TSharedRef<FStack>> Stacks;
 		bool bPrimary = false;
 		bool bMaximized = false;
@@ -198,10 +199,10 @@ private:
 	TSharedPtr<SDockTab> SpawnTab(const FTabId& TabId, const TSharedRef<SDockingTabStack>& Stack);
 	TSharedRef<SWidget> BuildArea(const FArea& Area, const TSharedPtr<SWindow>& Window);
 	void OpenAreaWindow(const FArea& Area);
-	TSharedRef<SDockingTabStack> MakeStackInNewWindow(const FVector2D& Size, const FVector2D& Position, bool bMaximized);
+	TSharedRef<SDockingTabStack> MakeStackInNewWindow(
+		const FVector2D& Size, const TOptional<FVector2D>& Position, bool bMaximized);
 
 	TMap<FName, TUniquePtr<FTabSpawnerEntry>> Spawners;
-	TArray<FString> TabsBeingSpawned;
 	TWeakPtr<SDockingTabStack> PrimaryStack;
 };
 

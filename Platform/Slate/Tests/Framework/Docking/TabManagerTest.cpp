@@ -102,24 +102,6 @@ TEST(TabManager, IsNotLiveBeforeItsSpawnerHasReturned)
 	EXPECT_FALSE(bLiveWithin);
 }
 
-TEST(TabManager, ASpawnerThatAsksForItsOwnTabGetsNoneAndAWarning)
-{
-	FTabWindow Tabs;
-	const FLogCapture Log(TEXT("LogTabManager"));
-	Tabs.Registered.Add("Self");
-	Manager()->RegisterNomadTabSpawner("Self",
-		FOnSpawnTab::CreateLambda(
-			[](const FSpawnTabArgs&)
-			{
-				EXPECT_FALSE(Manager()->TryInvokeTab(FName("Self")).IsValid());
-				return SNew(SDockTab);
-			}));
-
-	EXPECT_TRUE(Manager()->TryInvokeTab(FName("Self")).IsValid());
-
-	EXPECT_EQ(Log.Warnings(), TArray<FString>({TEXT("'Self' is opening already; its own opening asked for it again.")}));
-}
-
 TEST(TabManager, InvokingALiveTabBringsItToTheFrontWithoutSpawning)
 {
 	FTabWindow Tabs;
