@@ -632,6 +632,20 @@ TEST(SnapshotVelmoraWindow, WindowIsItselfAgainAfterwards)
 	EXPECT_EQ(Tool.Plugin.Python.Take().Last(), FString(TEXT("go()")));
 }
 
+TEST(SnapshotVelmoraWindow, ScrollBoxesStandWhereTheyStoodAfterwards)
+{
+	FRunningPlugin Plugin;
+	UVelmoraData& Data = Plugin.Launch(TEXT("A.json"),
+		ToolWithRoot("{ \"SScrollBox\": { \"Aka\": \"Box\", \"Slots\": [ { \"SBox\": { \"HeightOverride\": 900 } } ] } }"));
+	Data.SetScrollBoxOffset("Box", 200.0f);
+	Plugin.Window.Frame();
+
+	UVelmoraData::SnapshotVelmoraWindow(TEXT("A.json"), FVector2D(800.0, 2000.0));
+	Plugin.Window.Frame();
+
+	EXPECT_EQ(Data.GetScrollBoxOffsets("Box").FindRef(TEXT("Offset")), 200.0f);
+}
+
 TEST(SnapshotVelmoraWindow, ToolMayTakeItsPictureFromTheClickOfItsButton)
 {
 	FSnapshotTool Tool;

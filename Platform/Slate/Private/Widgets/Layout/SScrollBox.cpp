@@ -111,13 +111,13 @@ void SScrollBox::ScrollToEnd()
 
 void SScrollBox::OnScrollBarMoved(float OffsetFraction)
 {
-	Panel->SetOffset(OffsetFraction * Panel->GetContentLength());
+	Panel->SetOffset(FMath::Min(OffsetFraction * Panel->GetContentLength(), Panel->GetOffsetOfEnd()));
 }
 
 FReply SScrollBox::OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
 	const float Before = Panel->GetOffset();
-	Panel->SetOffset(Before - MouseEvent.GetWheelDelta() * WheelStep);
+	Panel->SetOffset(FMath::Min(Before - MouseEvent.GetWheelDelta() * WheelStep, Panel->GetOffsetOfEnd()));
 	// At an end the wheel goes on to a scroll box further out.
 	return Panel->GetOffset() != Before ? FReply::Handled() : FReply::Unhandled();
 }

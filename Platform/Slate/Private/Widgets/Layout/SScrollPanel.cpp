@@ -12,26 +12,35 @@ void SScrollPanel::Construct(const FArguments& InArgs, EOrientation InOrientatio
 void SScrollPanel::SetOrientation(EOrientation InOrientation)
 {
 	Orientation = InOrientation;
-	Offset = 0.0f;
+	SetOffset(0.0f);
 	Invalidate(EInvalidateWidgetReason::Layout);
 }
 
 void SScrollPanel::SetOffset(float NewOffset)
 {
-	// Before the first arrangement there is no end yet; the arrangement will limit the offset.
-	const float Limited = ViewLength > 0.0f ? FMath::Min(NewOffset, GetOffsetOfEnd()) : NewOffset;
-	const float AtLeastZero = FMath::Max(Limited, 0.0f);
-	if (AtLeastZero != Offset)
+	const float AtLeastZero = FMath::Max(NewOffset, 0.0f);
+	if (AtLeastZero != GetOffset())
 	{
-		Offset = AtLeastZero;
+		WantedOffset = AtLeastZero;
+		bOffsetIsNew = true;
 		Invalidate(EInvalidateWidgetReason::Layout);
 	}
 }
 
 void SScrollPanel::ScrollToEndAtNextLayout()
 {
-	Offset = TNumericLimits<float>::Max();
+	WantedOffset = TNumericLimits<float>::Max();
 	Invalidate(EInvalidateWidgetReason::Layout);
+}
+
+bool SScrollPanel::IsWithinForeignWindow() const
+{
+	int32 NumWindows = 0;
+	for (SWidget* Step = GetParentPointer(); Step && NumWindows < 2; Step = Step->GetParentPointer())
+	{
+		NumWindows += Step->AsWindow() != nullptr;
+	}
+	return NumWindows > 1;
 }
 
 FVector2D SScrollPanel::RoomOf(const SScrollBox::FSlot& Slot) const
@@ -59,7 +68,12 @@ void SScrollPanel::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrange
 {
 	ViewLength = Along(AllottedGeometry.GetLocalSize());
 	ContentLength = Along(GetDesiredSize());
-	Offset = FMath::Clamp(Offset, 0.0f, GetOffsetOfEnd());
+	Offset = FMath::Clamp(WantedOffset, 0.0f, GetOffsetOfEnd());
+	if (!IsWithinForeignWindow())
+	{
+		WantedOffset = Offset;
+	}
+	bOffsetIsNew = false;
 	if (const TSharedPtr<SScrollBar> Bar = ScrollBar.Pin())
 	{
 		const bool bScrolls = ContentLength > ViewLength && ContentLength > 0.0f;

@@ -22,9 +22,12 @@ public:
 	void SetScrollBar(const TSharedPtr<SScrollBar>& InScrollBar) { ScrollBar = InScrollBar; }
 	void SetOrientation(EOrientation InOrientation);
 
+	/** Any offset is taken; the next layout limits it to what there is to scroll then. */
 	void SetOffset(float NewOffset);
 	void ScrollToEndAtNextLayout();
-	float GetOffset() const { return Offset; }
+
+	/** What was asked for since the last layout, or else what that has allowed. */
+	float GetOffset() const { return bOffsetIsNew ? WantedOffset : Offset; }
 	float GetViewLength() const { return ViewLength; }
 	float GetContentLength() const { return ContentLength; }
 	float GetOffsetOfEnd() const { return FMath::Max(ContentLength - ViewLength, 0.0f); }
@@ -46,8 +49,14 @@ private:
 	EOrientation Orientation = Orient_Vertical;
 	TWeakPtr<SScrollBar> ScrollBar;
 
-	// Settled by the arrangement, which alone knows how much room there is.
+	/** Whether the window of this panel is shown within another one, as while a picture is taken in another size. */
+	bool IsWithinForeignWindow() const;
+
+	// Settled by the arrangement, which alone knows how much room there is. What was asked for is kept apart from what was allowed, for
+	// the room that there is in a foreign window says nothing about the panel's own.
+	mutable float WantedOffset = 0.0f;
 	mutable float Offset = 0.0f;
+	mutable bool bOffsetIsNew = false;
 	mutable float ViewLength = 0.0f;
 	mutable float ContentLength = 0.0f;
 };

@@ -40,8 +40,10 @@ public:
 	void RemoveSlot(const TSharedRef<SWidget>& WidgetToRemove);
 	void ClearChildren();
 
-	/** Beyond the end it stops at the end. */
+	/** Takes effect at the next layout, which stops it at the end that the content has then. */
 	void SetScrollOffset(float NewScrollOffset);
+
+	/** The offset that was set last, once laid out as far as there is content. */
 	float GetScrollOffset() const;
 	float GetScrollOffsetOfEnd() const;
 

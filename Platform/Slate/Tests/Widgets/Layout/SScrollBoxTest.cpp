@@ -29,6 +29,13 @@ struct FRows
 
 const FVector2D WindowSize(300.0, 400.0);
 
+/** The frame that follows on whatever ran. */
+void NextFrame(FSlateTestWindow& Window)
+{
+	FSlateApplication::Get().RequestFrame();
+	Window.Frame();
+}
+
 TSharedPtr<SWidget> FindBar(SWidget& Widget)
 {
 	if (Widget.GetType() == FName("SScrollBar"))
@@ -172,4 +179,61 @@ TEST(SScrollBox, CutsItsContentAtItsBounds)
 
 	EXPECT_NE(Window.GetPixel(50, 50), Window.GetPixel(50, 150));
 	EXPECT_EQ(Window.GetPixel(50, 150), Window.GetPixel(300, 300));
+}
+
+TEST(SScrollBox, OffsetSetRightAfterNewContentReachesItsEnd)
+{
+	FRows Rows;
+	FSlateTestWindow Window(Rows.Make(5), WindowSize);
+	NextFrame(Window);
+	EXPECT_EQ(Rows.ScrollBox->GetScrollOffsetOfEnd(), 100.0f);
+
+	for (int32 Index = 0; Index < 5; ++Index)
+	{
+		Rows.ScrollBox->AddSlot()[SNew(SBox).HeightOverride(100.0f)];
+	}
+	Rows.ScrollBox->SetScrollOffset(500.0f);
+	EXPECT_EQ(Rows.ScrollBox->GetScrollOffset(), 500.0f);
+	NextFrame(Window);
+	EXPECT_EQ(Rows.ScrollBox->GetScrollOffset(), 500.0f);
+
+	Rows.ScrollBox->SetScrollOffset(10000.0f);
+	NextFrame(Window);
+	EXPECT_EQ(Rows.ScrollBox->GetScrollOffset(), 600.0f);
+}
+
+TEST(SScrollBox, OffsetThatTheContentNoLongerAllowsIsForgotten)
+{
+	FRows Rows;
+	FSlateTestWindow Window(Rows.Make(10), WindowSize);
+	Rows.ScrollBox->SetScrollOffset(600.0f);
+	NextFrame(Window);
+
+	Rows.ScrollBox->ClearChildren();
+	NextFrame(Window);
+	for (const TSharedRef<SWidget>& Row : Rows.Rows)
+	{
+		Rows.ScrollBox->AddSlot()[Row];
+	}
+	NextFrame(Window);
+
+	EXPECT_EQ(Rows.ScrollBox->GetScrollOffset(), 0.0f);
+}
+
+TEST(SScrollBox, WheelAtTheEndGoesOnToAScrollBoxFurtherOut)
+{
+	FRows Inner;
+	const TSharedRef<SWidget> InnerBox = Inner.Make(10);
+	TSharedPtr<SScrollBox> Outer;
+	const TSharedRef<SScrollBox> Box = SAssignNew(Outer, SScrollBox);
+	Box->AddSlot()[SNew(SBox).HeightOverride(400.0f)[InnerBox]];
+	Box->AddSlot()[SNew(SBox).HeightOverride(400.0f)];
+	FSlateTestWindow Window(Box, WindowSize);
+	Inner.ScrollBox->SetScrollOffset(600.0f);
+	Window.MoveMouse(FVector2D(100.0, 100.0));
+
+	Window.Wheel(-1.0f);
+
+	EXPECT_EQ(Inner.ScrollBox->GetScrollOffset(), 600.0f);
+	EXPECT_GT(Outer->GetScrollOffset(), 0.0f);
 }
