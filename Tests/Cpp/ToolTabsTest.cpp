@@ -228,6 +228,23 @@ TEST(ToolTabs, CloseCommandRunsAsItStandsWhenTheTabCloses)
 	EXPECT_TRUE(FGlobalTabmanager::Get()->HasTabSpawner(FName(*Path)));
 }
 
+TEST(ToolTabs, FieldWithTheFocusCommitsBeforeTheCloseCommand)
+{
+	FRunningPlugin Plugin;
+	const FString Path = Plugin.WriteTool(TEXT("A.json"),
+		TEXT("{ \"InitPyCmd\": \"\", \"OnClosePyCmd\": \"closed()\", \"Root\": { \"SEditableTextBox\": { \"Aka\": \"Field\", "
+			 "\"OnTextCommitted\": \"commit(%)\" } } }"));
+	UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
+	Plugin.Window.Frame();
+	Plugin.Window.Click(FKestrixModule::Get().GetToolsDataInstanceByName(Path)->GetNamedWidget("Field").ToSharedRef());
+	Plugin.Window.TypeText(TEXT("typed"));
+	Plugin.Python.Take();
+
+	UVelmoraData::RequestClose(TEXT("A.json"));
+
+	EXPECT_EQ(Plugin.Python.Take(), FLines({TEXT("commit('''typed''')"), TEXT("closed()")}));
+}
+
 TEST(ToolTabs, WindowThatIsClosedClosesItsTools)
 {
 	FRunningPlugin Plugin;

@@ -45,6 +45,7 @@ bool FSlateApplication::SetFocusToPath(const FWidgetPath& NewPath, EFocusCause C
 	const FWeakWidgetPath OldPath = FocusPath;
 	FocusPath = FWeakWidgetPath(NewPath);
 	FocusedWidget = New;
+	FocusLeftFrom = New.IsValid() ? nullptr : Old;
 	for (const TWeakPtr<SWidget>& Entry : OldPath.Widgets)
 	{
 		if (const TSharedPtr<SWidget> Widget = Entry.Pin())
@@ -195,7 +196,8 @@ bool FSlateApplication::Navigate(const FKeyEvent& Event)
 
 bool FSlateApplication::MoveFocusInOrder(SWindow& Window, bool bForward)
 {
-	SWidget* const Next = SlateFocusOrder::FindNext(Window, FocusedWidget.Pin().Get(), bForward);
+	const TSharedPtr<SWidget> Start = FocusedWidget.IsValid() ? FocusedWidget.Pin() : FocusLeftFrom.Pin();
+	SWidget* const Next = SlateFocusOrder::FindNext(Window, Start.Get(), bForward);
 	return Next && SetKeyboardFocus(Next->AsShared(), EFocusCause::Navigation);
 }
 

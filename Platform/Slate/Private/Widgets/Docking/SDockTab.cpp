@@ -119,6 +119,11 @@ void SDockTab::CloseNow()
 {
 	const TSharedRef<SDockTab> Me = SharedThis(this);
 	FGlobalTabmanager& TabManager = FGlobalTabmanager::Get().Get();
+	if (TabManager.LiveTabs.Contains(Me))
+	{
+		// What was typed is committed while the tab is still itself.
+		DropFocusOfContent();
+	}
 	if (TabManager.LiveTabs.Remove(Me) == 0)
 	{
 		return;
@@ -138,6 +143,16 @@ void SDockTab::CloseNow()
 	const FCpuProfilerScopeStack::FScope Scope(
 		[this] { return FString::Printf(TEXT("closing of tab \"%s\""), *GetTabLabel().ToString()); });
 	OnTabClosed.ExecuteIfBound(Me);
+}
+
+void SDockTab::DropFocusOfContent()
+{
+	FSlateApplication& Application = FSlateApplication::Get();
+	const TSharedPtr<SWidget> Focused = Application.GetKeyboardFocusedWidget();
+	if (Focused.IsValid() && (Focused == TabContent || Application.HasFocusedDescendants(TabContent)))
+	{
+		Application.ClearKeyboardFocus(EFocusCause::OtherWidgetLostFocus);
+	}
 }
 
 FReply SDockTab::OnCloseButtonClicked()

@@ -202,6 +202,9 @@ private:
 
 	FWeakWidgetPath FocusPath;
 	TWeakPtr<SWidget> FocusedWidget;
+
+	/** What had the focus before nothing did; Tab goes on from there. */
+	TWeakPtr<SWidget> FocusLeftFrom;
 	FWeakWidgetPath HoverPath;
 	TWeakPtr<SWidget> MouseCaptor;
 	TSet<FKey> PressedMouseButtons;

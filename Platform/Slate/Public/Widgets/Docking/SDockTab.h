@@ -98,6 +98,7 @@ private:
 
 	/** Takes the tab out and tells its handler, without asking. */
 	void CloseNow();
+	void DropFocusOfContent();
 	FReply OnCloseButtonClicked();
 
 	const FDockTabStyle* Style = nullptr;

@@ -259,6 +259,35 @@ TEST(Navigation, TabGoesRoundAllFocusableWidgetsAndShiftTabBack)
 	EXPECT_TRUE(Buttons[2]->HasKeyboardFocus());
 }
 
+TEST(Navigation, TabGoesOnFromWhereTheFocusWasGivenUp)
+{
+	TSharedPtr<SButton> Buttons[3];
+	const TSharedRef<SVerticalBox> Column = SNew(SVerticalBox);
+	for (TSharedPtr<SButton>& Button : Buttons)
+	{
+		Column->AddSlot().AutoHeight()[SAssignNew(Button, SButton)];
+	}
+	FSlateTestWindow Window(Column);
+	FSlateApplication& Application = FSlateApplication::Get();
+
+	Application.SetKeyboardFocus(Buttons[1]);
+	Application.ClearKeyboardFocus();
+	Window.PressKey(EKeys::Tab);
+	EXPECT_EQ(Application.GetKeyboardFocusedWidget(), Buttons[2]);
+
+	Application.SetKeyboardFocus(Buttons[1]);
+	Application.ClearKeyboardFocus();
+	Window.PressKey(EKeys::Tab, {/* bShift */ true});
+	EXPECT_EQ(Application.GetKeyboardFocusedWidget(), Buttons[0]);
+
+	// A widget that is gone is no place to go on from.
+	Application.SetKeyboardFocus(Buttons[1]);
+	Application.ClearKeyboardFocus();
+	Column->RemoveSlot(Buttons[1].ToSharedRef());
+	Window.PressKey(EKeys::Tab);
+	EXPECT_EQ(Application.GetKeyboardFocusedWidget(), Buttons[0]);
+}
+
 TEST(Navigation, FocusByTheKeyboardIsSeenAndFocusByTheMouseIsNot)
 {
 	TSharedPtr<SButton> Button;
@@ -354,6 +383,24 @@ TEST(ToolTips, StandAboveTheCursorWhereThereIsNoRoomBelow)
 	EXPECT_LT(Place.Bottom, Cursor.Y);
 	EXPECT_GE(Place.Top, 0.0f);
 	EXPECT_LE(Place.Right, 200.0f);
+}
+
+TEST(ToolTips, LongTextIsWrappedIntoItsWindowAwayFromTheEdges)
+{
+	TSharedPtr<SBorder> Border;
+	FSlateTestWindow Window(
+		SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is and what it does, told at some length"))),
+		FVector2D(160.0, 200.0));
+
+	Window.MoveMouse(FVector2D(80.0, 20.0));
+	Window.Wait(1.0);
+
+	ASSERT_TRUE(FSlateApplication::Get().GetShownToolTip().IsValid());
+	const FSlateRect Place =
+		FSlateApplication::Get().GetShownToolTip()->AsWidget()->GetPaintSpaceGeometry().GetLayoutBoundingRect();
+	EXPECT_GE(Place.Left, 4.0f);
+	EXPECT_LE(Place.Right, 156.0f);
+	EXPECT_GT(Place.Bottom - Place.Top, 40.0f);
 }
 
 TEST(Screenshot, TakesOneWidgetOutOfItsWindowAndRefusesAWidgetInNone)
