@@ -186,6 +186,17 @@ TEST(ParseWidgetStyle, EveryFaultLeavesTheOutputAndSpeaksOfAFont)
 			TEXT("Velmora: Warning: Style: Mine Not Support yet"), TEXT("Velmora: Warning: ParseFontInfo Default Font used")}));
 }
 
+TEST(ParseWidgetStyle, NoBorderIsAButtonStyleOfItsOwn)
+{
+	const FButtonStyle* Style = nullptr;
+
+	EXPECT_TRUE(ParseWidgetStyle(JsonValue(R"({ "Style": "FEditorStyle", "StyleName": "NoBorder" })"), Style));
+
+	EXPECT_NE(Style, &FButtonStyle::GetDefault());
+	EXPECT_EQ(Style->Normal.GetDrawType(), ESlateBrushDrawType::NoDrawType);
+	EXPECT_EQ(Style->Hovered.GetDrawType(), ESlateBrushDrawType::NoDrawType);
+}
+
 TEST(ParseWidgetStyle, AllThreeStyleSetsLeadToOne)
 {
 	for (const char* Set : {"FCoreStyle", "feditorstyle", "FAppStyle"})

@@ -8,6 +8,8 @@ namespace
 {
 /** Slate units at which the text of a tool tip is wrapped. */
 constexpr float WrapWidth = 400.0f;
+
+const FMargin TextPadding(10.0f, 6.0f);
 }
 
 void SToolTip::Construct(const FArguments& InArgs)
@@ -19,12 +21,17 @@ void SToolTip::Construct(const FArguments& InArgs)
 	[
 		SNew(SBorder)
 		.BorderImage(FAppStyle::Get().GetBrush("ToolTip.Background"))
-		.Padding(FMargin(10.0f, 6.0f))
+		.Padding(TextPadding)
 		[
-			SNew(STextBlock)
+			SAssignNew(TextBlock, STextBlock)
 			.Text(InArgs._Text)
 			.WrapTextAt(WrapWidth)
 		]
 	];
 	// clang-format on
+}
+
+void SToolTip::LimitWidth(float MaxWidth)
+{
+	TextBlock->SetWrapTextAt(FMath::Clamp(MaxWidth - TextPadding.GetTotalSpaceAlong<Orient_Horizontal>(), 1.0f, WrapWidth));
 }

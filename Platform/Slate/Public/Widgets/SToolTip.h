@@ -16,8 +16,11 @@ public:
 	virtual TSharedRef<SWidget> AsWidget() override { return AsShared(); }
 	virtual bool IsEmpty() const override { return TextContent.Get(FText::GetEmpty()).IsEmpty(); }
 
+	virtual void LimitWidth(float MaxWidth) override;
+
 	FText GetTextTooltip() const { return TextContent.Get(FText::GetEmpty()); }
 
 private:
 	TAttribute<FText> TextContent;
+	TSharedPtr<class STextBlock> TextBlock;
 };

@@ -3,6 +3,7 @@
 #include "Fonts/CompositeFont.h"
 #include "Fonts/FontFace.h"
 #include "Fonts/FontSystem.h"
+#include "Styling/CoreStyle.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogSlateFonts, Log, All);
 
@@ -29,11 +30,16 @@ FString GetFaceName(const FSlateFontInfo& FontInfo)
 	return Faces[0].Font.GetFontFilename();
 }
 
+/** The size of a font that has none. */
+constexpr int32 NoSize = -1;
+
 double GetPixelSize(const FSlateFontInfo& FontInfo, float Scale)
 {
-	const double Size = double(FontInfo.GetPixelSize()) * double(Scale);
+	FSlateFontInfo Sized = FontInfo;
+	Sized.Size = FontInfo.Size >= 1 ? FontInfo.Size : FCoreStyle::RegularTextSize;
+	const double Size = double(Sized.GetPixelSize()) * double(Scale);
 	const double Bounded = Size >= 1.0 ? FMath::Min(Size, MaxPixelSize) : 1.0;
-	if (FontInfo.Size <= 0 || Size > MaxPixelSize)
+	if ((FontInfo.Size <= 0 && FontInfo.Size != NoSize) || Size > MaxPixelSize)
 	{
 		UE_LOG(LogSlateFonts, Warning, TEXT("A font of size %d cannot be drawn; letters of %.0f pixels are used."), FontInfo.Size,
 			Bounded);

@@ -12,8 +12,6 @@
 
 namespace
 {
-constexpr int32 RegularTextSize = 10;
-constexpr int32 SmallTextSize = 8;
 constexpr float CornerRadius = 4.0f;
 
 FSlateRoundedBoxBrush RoundedBox(const FColor& Fill, const FColor& OutlineColor, float OutlineWidth = 1.0f)
@@ -43,6 +41,7 @@ public:
 		SetBrushes();
 		SetFonts();
 		SetButtons();
+		SetBareButton();
 		SetCheckBoxes();
 		SetScrolling();
 		SetTextFields();
@@ -65,7 +64,7 @@ private:
 		Set("BlackBrush", new FSlateColorBrush(FLinearColor::Black));
 		Set("Window.Background", new FSlateColorBrush(Fill(Palette::Window)));
 		Set("Border", new FSlateRoundedBoxBrush(RoundedBox(Palette::Panel, Palette::Outline)));
-		Set("ToolTip.Background", new FSlateRoundedBoxBrush(RoundedBox(Palette::DarkPanel, Palette::Outline)));
+		Set("ToolTip.Background", new FSlateRoundedBoxBrush(RoundedBox(Palette::ToolTip, Palette::ScrollThumbHovered)));
 		Set("FocusRectangle",
 			new FSlateRoundedBoxBrush(FSlateColor(FLinearColor::Transparent), CornerRadius, Text(Palette::Accent), 1.5f));
 		Set("DefaultForeground", Text(Palette::Foreground));
@@ -74,17 +73,17 @@ private:
 
 	void SetFonts()
 	{
-		const FSlateFontInfo Regular = FCoreStyle::GetDefaultFontStyle("Regular", RegularTextSize);
+		const FSlateFontInfo Regular = FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
 		Set("NormalFont", Regular);
-		Set("SmallFont", FCoreStyle::GetDefaultFontStyle("Regular", SmallTextSize));
-		Set("BoldFont", FCoreStyle::GetDefaultFontStyle("Bold", RegularTextSize));
+		Set("SmallFont", FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::SmallTextSize));
+		Set("BoldFont", FCoreStyle::GetDefaultFontStyle("Bold", FCoreStyle::RegularTextSize));
 		Set("DefaultFont.Italic.12", FCoreStyle::GetDefaultFontStyle("Italic", 12));
 		Set("DefaultFont", Regular);
 
 		const FTextBlockStyle Normal = FTextBlockStyle().SetFont(Regular).SetSelectedBackgroundColor(Text(Palette::Selection));
 		Set("NormalText", Normal);
 		Set("NormalText.Subdued", FTextBlockStyle(Normal).SetColorAndOpacity(Text(Palette::ForegroundDim)));
-		Set("SmallText", FTextBlockStyle(Normal).SetFont(FCoreStyle::GetDefaultFontStyle("Regular", SmallTextSize)));
+		Set("SmallText", FTextBlockStyle(Normal).SetFont(FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::SmallTextSize)));
 		Set("LargeText",
 			FTextBlockStyle(Normal)
 				.SetFont(FCoreStyle::GetDefaultFontStyle("Bold", 14))
@@ -125,6 +124,21 @@ private:
 				.SetNormalForeground(Text(Palette::ForegroundDim))
 				.SetHoveredForeground(Text(Palette::ForegroundBright))
 				.SetPressedForeground(Text(Palette::ForegroundBright))
+				.SetDisabledForeground(Text(Palette::ForegroundDisabled)));
+	}
+
+	/** A button that is seen by its content alone. */
+	void SetBareButton()
+	{
+		Set("NoBorder",
+			FButtonStyle()
+				.SetNormal(FSlateNoResource())
+				.SetHovered(FSlateNoResource())
+				.SetPressed(FSlateNoResource())
+				.SetDisabled(FSlateNoResource())
+				.SetNormalForeground(Text(Palette::Foreground))
+				.SetHoveredForeground(Text(Palette::ForegroundBright))
+				.SetPressedForeground(Text(Palette::Accent))
 				.SetDisabledForeground(Text(Palette::ForegroundDisabled)));
 	}
 
@@ -171,10 +185,11 @@ private:
 
 	void SetTextFields()
 	{
-		const FEditableTextStyle EditableText = FEditableTextStyle()
-													.SetFont(FCoreStyle::GetDefaultFontStyle("Regular", RegularTextSize))
-													.SetBackgroundImageSelected(Fill(Palette::Selection))
-													.SetCaretImage(Fill(Palette::ForegroundBright));
+		const FEditableTextStyle EditableText =
+			FEditableTextStyle()
+				.SetFont(FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize))
+				.SetBackgroundImageSelected(Fill(Palette::Selection))
+				.SetCaretImage(Fill(Palette::ForegroundBright));
 		Set("NormalEditableText", EditableText);
 		Set("NormalEditableTextBox",
 			FEditableTextBoxStyle()
@@ -186,7 +201,7 @@ private:
 				.SetForegroundColor(Text(Palette::Foreground))
 				.SetFocusedForegroundColor(Text(Palette::ForegroundBright))
 				.SetReadOnlyForegroundColor(Text(Palette::Foreground))
-				.SetPadding(FMargin(8.0f, 4.0f))
+				.SetPadding(FMargin(8.0f, 6.0f))
 				.SetScrollBarStyle(MakeScrollBar()));
 	}
 

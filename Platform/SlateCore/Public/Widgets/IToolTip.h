@@ -14,4 +14,7 @@ public:
 
 	/** True when there is nothing to show at the moment. */
 	virtual bool IsEmpty() const = 0;
+
+	/** Makes it no wider, in slate units, than there is room for. */
+	virtual void LimitWidth(float MaxWidth) = 0;
 };

@@ -3,6 +3,7 @@
 #include "Fonts/FontMeasure.h"
 #include "Fonts/SlateFontInfo.h"
 #include "LogCapture.h"
+#include "Styling/CoreStyle.h"
 #include "Misc/Paths.h"
 
 #include <gtest/gtest.h>
@@ -109,8 +110,18 @@ TEST_F(FontMeasure, ASizeOutOfReasonDrawsOneWarning)
 	EXPECT_EQ(Log.Warnings(),
 		TArray<FString>({
 			TEXT("A font of size 123456 cannot be drawn; letters of 1024 pixels are used."),
-			TEXT("A font of size -3 cannot be drawn; letters of 1 pixels are used."),
+			TEXT("A font of size -3 cannot be drawn; letters of 13 pixels are used."),
 		}));
+}
+
+TEST_F(FontMeasure, FontWithoutASizeIsAsLargeAsRegularTextWithoutAWord)
+{
+	const FLogCapture Log(TEXT("LogSlateFonts"));
+
+	EXPECT_EQ(
+		Measure->Measure(TEXT("Text"), MakeFont(-1)), Measure->Measure(TEXT("Text"), MakeFont(FCoreStyle::RegularTextSize)));
+
+	EXPECT_EQ(Log.Warnings(), TArray<FString>());
 }
 
 // Engine fact: a size of zero or less must not crash.
@@ -118,7 +129,7 @@ TEST_F(FontMeasure, SizesOutOfReasonAreBounded)
 {
 	EXPECT_GT(Measure->GetMaxCharacterHeight(MakeFont(0)), 0);
 	EXPECT_EQ(Measure->GetMaxCharacterHeight(MakeFont(-1)), Measure->GetMaxCharacterHeight(MakeFont(0)));
-	EXPECT_EQ(Measure->GetMaxCharacterHeight(MakeFont(9), 0.0f), Measure->GetMaxCharacterHeight(MakeFont(0)));
+	EXPECT_EQ(Measure->GetMaxCharacterHeight(MakeFont(9), 0.0f), 1);
 	EXPECT_EQ(Measure->GetMaxCharacterHeight(MakeFont(2000000000)), Measure->GetMaxCharacterHeight(MakeFont(10000)));
 }
 

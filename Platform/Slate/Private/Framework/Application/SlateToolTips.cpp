@@ -13,6 +13,9 @@ const FVector2D CursorOffset(12.0, 20.0);
 /** Slate units between the tip of the cursor and a tool tip above it. */
 constexpr double GapAbove = 6.0;
 
+/** Slate units between a tool tip and the edge of its window. */
+constexpr double EdgeGap = 4.0;
+
 TSharedPtr<IToolTip> FindToolTip(const FWidgetPath& Path)
 {
 	for (int32 Index = Path.Widgets.Num() - 1; Index >= 0; --Index)
@@ -64,9 +67,11 @@ void FSlateToolTips::Show()
 	}
 	const TSharedRef<SWidget> Tip = Wanted->AsWidget();
 	const float Scale = Host->GetDPIScaleFactor();
+	const FVector2D HostSize = Host->GetSizeInScreen() / Scale;
+	Wanted->LimitWidth(static_cast<float>(HostSize.X - 2.0 * EdgeGap));
 	Tip->SlatePrepass(Scale);
 	const FVector2D TipSize = Tip->GetDesiredSize();
-	const FVector2D Room = Host->GetSizeInScreen() / Scale - TipSize;
+	const FVector2D Room = HostSize - TipSize - FVector2D(EdgeGap, EdgeGap);
 	const FVector2D Cursor = (CursorPosition - Host->GetPositionInScreen()) / Scale;
 	FVector2D Place = Cursor + CursorOffset / Scale;
 	if (Place.Y > Room.Y)
@@ -74,7 +79,8 @@ void FSlateToolTips::Show()
 		// Moved up just into the window, it would lie under the cursor.
 		Place.Y = Cursor.Y - GapAbove - TipSize.Y;
 	}
-	Host->AddPopup(Tip, FVector2D(FMath::Max(FMath::Min(Place.X, Room.X), 0.0), FMath::Max(FMath::Min(Place.Y, Room.Y), 0.0)));
+	Host->AddPopup(
+		Tip, FVector2D(FMath::Max(FMath::Min(Place.X, Room.X), EdgeGap), FMath::Max(FMath::Min(Place.Y, Room.Y), EdgeGap)));
 	bShown = true;
 }
 

@@ -14,6 +14,9 @@ const FCheckBoxStyle& GetDefaultCheckBoxStyle()
 	return FAppStyle::Get().GetWidgetStyle<FCheckBoxStyle>("Checkbox");
 }
 
+/** Between the tick, or the content, and the ring of the keyboard focus. */
+const FMargin RoomForFocus(3.0f, 2.0f, 4.0f, 2.0f);
+
 /** The picture of the state. It asks its check box each time it is painted. */
 class SCheckBoxMark final : public SLeafWidget
 {
@@ -63,6 +66,7 @@ void SCheckBox::Construct(const FArguments& InArgs)
 	SHorizontalBox::FSlot* Slot = nullptr;
 	// clang-format off
 	ChildSlot
+	.Padding(RoomForFocus)
 	[
 		SNew(SHorizontalBox)
 		+ SHorizontalBox::Slot()

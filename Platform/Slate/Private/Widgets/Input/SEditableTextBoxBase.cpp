@@ -18,6 +18,7 @@ void SEditableTextBoxBase::ConstructFrame(
 						   .ForegroundColor(Frame.ForegroundColor)
 						   .BorderBackgroundColor(Frame.BackgroundColor)[InContent]);
 	Field = InField;
+	Field->SetFramed();
 	bBackgroundColorIsSet = Frame.BackgroundColor.IsSet();
 	SetIsReadOnly(Frame.IsReadOnly);
 	SetFont(Frame.Font);
@@ -27,6 +28,8 @@ void SEditableTextBoxBase::ConstructFrame(
 void SEditableTextBoxBase::SetStyle(const FEditableTextBoxStyle* InStyle)
 {
 	Style = InStyle ? InStyle : &GetDefaultStyle();
+	FocusedReadOnlyImage = Style->BackgroundImageReadOnly;
+	FocusedReadOnlyImage.OutlineSettings = Style->BackgroundImageFocused.OutlineSettings;
 	if (!bBackgroundColorIsSet)
 	{
 		SetBorderBackgroundColor(Style->BackgroundColor);
@@ -55,7 +58,7 @@ const FSlateBrush* SEditableTextBoxBase::GetBorder() const
 {
 	if (IsReadOnly())
 	{
-		return &Style->BackgroundImageReadOnly;
+		return Field->HasKeyboardFocus() ? &FocusedReadOnlyImage : &Style->BackgroundImageReadOnly;
 	}
 	if (Field->HasKeyboardFocus())
 	{

@@ -42,6 +42,7 @@ SEditableTextBase::SEditableTextBase(bool bMultiLine)
 	, bSelectAllOnMouseUp(false)
 	, bCaretIsLit(false)
 	, bCaretStaysLit(false)
+	, bFramed(false)
 {
 	SetClipping(EWidgetClipping::ClipToBounds);
 }

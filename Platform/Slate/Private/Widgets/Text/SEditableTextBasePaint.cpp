@@ -79,7 +79,7 @@ struct SEditableTextBase::FPainter
 
 const FSlateBrush* SEditableTextBase::GetFocusBrush() const
 {
-	return IsTextReadOnly() ? SWidget::GetFocusBrush() : nullptr;
+	return IsTextReadOnly() && !bFramed ? SWidget::GetFocusBrush() : nullptr;
 }
 
 int32 SEditableTextBase::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,

@@ -61,6 +61,9 @@ private:
 	TSharedPtr<SEditableTextBase> Field;
 	const FEditableTextBoxStyle* Style = nullptr;
 
+	/** The look of a read-only field with the outline of a focused one. */
+	FSlateBrush FocusedReadOnlyImage;
+
 	/** The same as the field's; here a change repaints the frame. */
 	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsFrameReadOnly{false};
 	bool bFontIsSet = false;

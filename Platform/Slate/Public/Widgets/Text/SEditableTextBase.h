@@ -81,6 +81,9 @@ public:
 
 	/** None where the caret shows the focus. */
 	virtual const FSlateBrush* GetFocusBrush() const override;
+
+	/** A frame around the field shows the focus. */
+	void SetFramed() { bFramed = true; }
 	virtual FCursorReply OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const override;
 
 protected:
@@ -192,4 +195,5 @@ private:
 	uint8 bSelectAllOnMouseUp : 1;
 	uint8 bCaretIsLit : 1;
 	uint8 bCaretStaysLit : 1;
+	uint8 bFramed : 1;
 };

@@ -104,7 +104,7 @@ TEST(SCheckBox, ShowsItsState)
 	FCheckBoxWindow Box;
 	FSlateTestWindow Window(Box.Make(ECheckBoxState::Unchecked));
 	const FVector2D Mark =
-		Box.CheckBox->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(3.0, Box.CheckBox->GetDesiredSize().Y / 2.0);
+		Box.CheckBox->GetPaintSpaceGeometry().GetAbsolutePosition() + FVector2D(6.0, Box.CheckBox->GetDesiredSize().Y / 2.0);
 	const FColor Unchecked = Window.GetPixel(Mark.X, Mark.Y);
 
 	Box.CheckBox->SetIsChecked(ECheckBoxState::Checked);

@@ -4,6 +4,7 @@
 
 #include "SlateTestWindow.h"
 #include "TextFieldLog.h"
+#include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBox.h"
 
 namespace
@@ -81,6 +82,33 @@ TEST_F(FEditableTextBoxTest, HasOtherLooksHoveredFocusedAndReadOnly)
 	Window->Frame();
 	EXPECT_TRUE(Box->IsReadOnly());
 	EXPECT_NE(Background(), Normal);
+}
+
+TEST_F(FEditableTextBoxTest, ReadOnlyFieldWithTheFocusHasItsFrameAndKeepsItsGround)
+{
+	Show(SEditableTextBox::FArguments().MinDesiredWidth(100.0f));
+	Window->Click(Box.ToSharedRef());
+	const FColor FocusedOutline = Outline();
+	FSlateApplication::Get().ClearKeyboardFocus();
+	Box->SetIsReadOnly(true);
+	Window->MoveMouse(FVector2D(400.0, 400.0));
+	const FColor Ground = Background();
+	EXPECT_NE(Outline(), FocusedOutline);
+
+	Window->PressKey(EKeys::Tab);
+
+	EXPECT_TRUE(Box->HasFocusedDescendants());
+	EXPECT_EQ(Outline(), FocusedOutline);
+	EXPECT_EQ(Background(), Ground);
+}
+
+TEST_F(FEditableTextBoxTest, IsAsHighAsAButton)
+{
+	Show();
+	const TSharedRef<SButton> Button = SNew(SButton).Text(Text(TEXT("Go")));
+	Button->SlatePrepass(1.0f);
+
+	EXPECT_EQ(Box->GetDesiredSize().Y, Button->GetDesiredSize().Y);
 }
 
 TEST_F(FEditableTextBoxTest, TheStyleGivesTheRoomAroundTheText)
