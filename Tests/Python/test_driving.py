@@ -1,10 +1,11 @@
 """What the driver says when a test asks for something that a user could not do."""
 
+import pathlib
 import re
 
 import pytest
 
-from toolbench import Driver, button, field, label, vertical
+from toolbench import PYTHON_FOLDER, Driver, button, field, label, vertical
 
 
 def raises(text):
@@ -69,3 +70,22 @@ def test_label_that_another_begins_with_names_its_own_tab(tool):
 def test_time_does_not_go_back():
     with raises("There is no waiting for -1 seconds"):
         Driver.wait(-1)
+
+
+@pytest.mark.parametrize("path", ["../out", "Saved/../../out.png", "../" * 40 + "tmp/out", "../Trial2/out.png"])
+def test_picture_outside_of_the_project_is_refused(tool, path):
+    t = tool(label("a"))
+    with raises(f"'{path}' leads out of the project; give an absolute path for a picture that is to stand elsewhere"):
+        Driver.screenshot(t.tab, path)
+
+
+def test_picture_gets_the_ending_of_its_format(tool, tmp_path):
+    t = tool(label("a"))
+    taken = tmp_path / "passwd"
+    taken.write_text("precious")
+
+    assert Driver.screenshot(t.tab, str(taken)) == f"{taken}.png"
+    assert Driver.screenshot(t.tab, "Saved/Inner/../shot") == str(PYTHON_FOLDER.parents[2] / "Saved/shot.png")
+
+    assert taken.read_text() == "precious"
+    assert pathlib.Path(f"{taken}.png").read_bytes().startswith(b"\x89PNG")

@@ -17,6 +17,13 @@ IMPLEMENT_MODULE(FDefaultModuleImpl, EditorDriver)
 
 namespace
 {
+/** A name without its ending would write over whatever file bears it. */
+FString MakePicturePath(const FString& Path)
+{
+	const FString Named = Path.EndsWith(TEXT(".png")) ? Path : Path + TEXT(".png");
+	return FPaths::IsRelative(Named) ? FPaths::ConvertRelativePathToFull(FPaths::ProjectDir(), Named) : Named;
+}
+
 /** Steps of a drag between its ends. */
 constexpr int32 DragSteps = 10;
 
@@ -260,6 +267,13 @@ void UEditorDriver::Wait(float Seconds)
 
 FString UEditorDriver::Screenshot(const FString& Tab, const FString& Path)
 {
+	const FString FullPath = MakePicturePath(Path);
+	if (FPaths::IsRelative(Path) && !FPaths::IsUnderDirectory(FullPath, FPaths::ProjectDir()))
+	{
+		Raise(FString::Printf(
+			TEXT("'%s' leads out of the project; give an absolute path for a picture that is to stand elsewhere"), *Path));
+		return FString();
+	}
 	const TSharedPtr<SWindow> Window = WidgetFinder::FindWindow(Tab);
 	TArray<FColor> Pixels;
 	FIntVector Size;
@@ -268,7 +282,6 @@ FString UEditorDriver::Screenshot(const FString& Tab, const FString& Path)
 		Raise(FString::Printf(TEXT("There is no tab and no window \"%s\" to take a picture of"), *Tab));
 		return FString();
 	}
-	const FString FullPath = FPaths::IsRelative(Path) ? FPaths::ConvertRelativePathToFull(FPaths::ProjectDir(), Path) : Path;
 	TArray64<uint8> Compressed;
 	FImageUtils::PNGCompressImageArray(Size.X, Size.Y, Pixels, Compressed);
 	if (!FFileHelper::SaveArrayToFile(Compressed, *FullPath))

@@ -128,7 +128,8 @@ public:
 	 * Writes what the window of a tab shows to a PNG file.
 	 *
 	 * @param Tab  Label or identifier of a tab, or title of a window.
-	 * @param Path  The file; a relative one is taken against the project's folder. Missing folders are made.
+	 * @param Path  The file: absolute, or relative to the project's folder and inside it. ".png" is added if the name does not end so,
+	 *              missing folders are made.
 	 * @return The full path of the file.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")

@@ -20,7 +20,7 @@ UBlueprint* LoadDataBlueprint(const FString& DataPath)
 }
 
 /** The name that a data object would like to have, or one like it where another tool's object bears that. */
-FName MakeDataObjectName(const UClass* Class, const FString& DesiredName)
+FName MakeDataObjectName(UClass* Class, const FString& DesiredName)
 {
 	const FName Name = NameOfText(DesiredName);
 	const bool bTaken = StaticFindObjectFast(UObject::StaticClass(), GetTransientPackage(), Name) != nullptr;

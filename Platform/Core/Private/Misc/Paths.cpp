@@ -273,5 +273,6 @@ bool FPaths::IsUnderDirectory(const FString& InPath, const FString& InDirectory)
 	FString Path = WithSlash(ConvertRelativePathToFull(InPath));
 	RemoveDuplicateSlashes(Directory);
 	RemoveDuplicateSlashes(Path);
-	return Path.StartsWith(Directory, ESearchCase::CaseSensitive);
+	// A path that climbs above the root keeps its "..", and lies wherever the system takes it.
+	return Path.StartsWith(Directory, ESearchCase::CaseSensitive) && !Path.Contains(TEXT("/../"));
 }

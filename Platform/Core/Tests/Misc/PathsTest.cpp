@@ -121,6 +121,8 @@ TEST(Paths, RelativeToTheFolderOfAnother)
 TEST(Paths, UnderDirectoryComparesWholeNames)
 {
 	EXPECT_TRUE(FPaths::IsUnderDirectory(TEXT("/P//A/x"), TEXT("/P/A")));
+	EXPECT_FALSE(FPaths::IsUnderDirectory(TEXT("/P/A/../x"), TEXT("/P/A")));
+	EXPECT_FALSE(FPaths::IsUnderDirectory(TEXT("/P/A/../../../../etc/x"), TEXT("/P/A")));
 	EXPECT_TRUE(FPaths::IsUnderDirectory(TEXT("/P/A"), TEXT("/P/A/")));
 	EXPECT_FALSE(FPaths::IsUnderDirectory(TEXT("/P/AB"), TEXT("/P/A")));
 }

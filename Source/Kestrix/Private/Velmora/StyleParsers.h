@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "Styling/AppStyle.h"
+#include "Styling/ISlateStyle.h"
 
 struct FSlateBrush;
 struct FSlateFontInfo;

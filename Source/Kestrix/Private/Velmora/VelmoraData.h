@@ -204,9 +204,10 @@ public:
 	 * @param ToolsPath           The relative JSON path of Velmora tool in Python folder, or an absolute path.
 	 * @param OverrideWindowSize  Size to paint the window at, in slate units, also beyond the screen's. (0, 0) for its present
 	 *                            one.
-	 * @param ImageFilePath       File to write, with its missing folders. Empty for a name with date and time in the folder
+	 * @param ImageFilePath       File to write, with its missing folders; a relative one counts from the project's folder. Empty for a name with date and time in the folder
 	 *                            "KestrixVelmoraUI" of the project's screenshots.
-	 * @return Absolute path of the file; empty if the tool is not open or the file could not be written.
+	 * @return Absolute path of the file; empty if the tool is not open or the file could not be written. In a command of "OnTick" the
+	 *         picture is taken after the frame, and the path is that of the file to be written.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Kestrix|Velmora")
 	static FString SnapshotVelmoraWindow(
