@@ -2,6 +2,7 @@
 
 #include "Fonts/CompositeFont.h"
 #include "Fonts/FontSystem.h"
+#include "Fonts/LongTexts.h"
 #include "Fonts/SizedFont.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Fonts/TextCache.h"
@@ -9,9 +10,6 @@
 
 namespace
 {
-
-/** Texts that are longer are shaped each time: they are rare, and a few of them would push out everything else's memory. */
-constexpr int32 MaxCachedLength = 4096;
 
 constexpr int32 MaxFonts = 256;
 
@@ -42,6 +40,7 @@ class FSlateFontCache::FImplementation
 public:
 	FImplementation()
 		: Shaper(FontSystem)
+		, LongTexts(Shaper)
 	{
 	}
 
@@ -51,10 +50,10 @@ public:
 	FSlateFontSystem FontSystem;
 	FSlateTextShaper Shaper;
 	FSlateTextCache Texts;
+	FSlateLongTexts LongTexts;
 	TMap<FSizedFontKey, TUniquePtr<FSlateSizedFont>> Fonts;
 	const FSlateSizedFont* LastFont = nullptr;
 	uint32 NextFontId = 0;
-	uint64 NumShapedTexts = 0;
 };
 
 const FSlateSizedFont& FSlateFontCache::FImplementation::GetFont(const FSlateFontInfo& FontInfo, float Scale)
@@ -75,6 +74,7 @@ const FSlateSizedFont& FSlateFontCache::FImplementation::GetFont(const FSlateFon
 	if (Fonts.Num() >= MaxFonts)
 	{
 		Texts.Empty();
+		LongTexts.Empty();
 		Fonts.Empty();
 		Shaper.ForgetFallbackFonts();
 	}
@@ -86,14 +86,16 @@ FShapedGlyphSequenceRef FSlateFontCache::FImplementation::Shape(
 	const TCHAR* Text, int32 Length, const FSlateFontInfo& FontInfo, float Scale)
 {
 	const FSlateSizedFont& Font = GetFont(FontInfo, Scale);
+	if (Length > FSlateLongTexts::MinLength)
+	{
+		return LongTexts.Shape(Text, Length, Font);
+	}
 	if (const FShapedGlyphSequenceRef* Known = Texts.Find(Text, Length, Font.GetId()))
 	{
 		return *Known;
 	}
 
-	++NumShapedTexts;
-	const FShapedGlyphSequenceRef Shaped = Shaper.Shape(Text, Length, Font);
-	return Length > MaxCachedLength ? Shaped : Texts.Add(Font.GetId(), Shaped);
+	return Texts.Add(Font.GetId(), Shaper.Shape(Text, Length, Font));
 }
 
 FSlateFontCache::FSlateFontCache()
@@ -127,5 +129,10 @@ int32 FSlateFontCache::GetNumCachedTexts() const
 
 uint64 FSlateFontCache::GetNumShapedTexts() const
 {
-	return Implementation->NumShapedTexts;
+	return Implementation->Shaper.GetNumShapedTexts();
+}
+
+uint64 FSlateFontCache::GetNumShapedCharacters() const
+{
+	return Implementation->Shaper.GetNumShapedCharacters();
 }

@@ -7,9 +7,9 @@ namespace
 {
 
 /** Sums of thirds of a pixel may come out a hair above a whole one. */
-double RoundUp(float Width)
+double RoundUp(double Width)
 {
-	return FMath::CeilToDouble(double(Width) - 0.001);
+	return FMath::CeilToDouble(Width - 0.001);
 }
 
 }
@@ -27,7 +27,7 @@ FSlateFontMeasure::FSlateFontMeasure(const TSharedRef<FSlateFontCache>& InFontCa
 FVector2D FSlateFontMeasure::MeasureLines(
 	const TCHAR* Text, int32 Length, const FSlateFontInfo& InFontInfo, float FontScale) const
 {
-	float Width = 0.0f;
+	double Width = 0.0;
 	int32 NumLines = 0;
 	int32 LineHeight = 0;
 	for (int32 Start = 0; Start <= Length;)
@@ -78,7 +78,7 @@ int32 FSlateFontMeasure::FindLastWholeCharacterIndexBeforeOffset(const FString& 
 	const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar, float FontScale) const
 {
 	const FShapedGlyphSequenceRef Line = FontCache->ShapeBidirectionalText(Text, InFontInfo, FontScale);
-	const int32 Last = FMath::Min(Line->GetCharacterAtOffset(StartIndex, float(HorizontalOffset)), EndIndex) - 1;
+	const int32 Last = FMath::Min(Line->GetCharacterAtOffset(StartIndex, HorizontalOffset), EndIndex) - 1;
 	return Last < StartIndex ? INDEX_NONE : Last;
 }
 
@@ -92,14 +92,14 @@ int32 FSlateFontMeasure::FindCharacterIndexAtOffset(const FString& Text, int32 S
 	const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, bool IncludeKerningWithPrecedingChar, float FontScale) const
 {
 	const FShapedGlyphSequenceRef Line = FontCache->ShapeBidirectionalText(Text, InFontInfo, FontScale);
-	const int32 Character = Line->GetCharacterAtOffset(StartIndex, float(HorizontalOffset));
+	const int32 Character = Line->GetCharacterAtOffset(StartIndex, HorizontalOffset);
 	if (Character >= EndIndex)
 	{
 		return EndIndex;
 	}
-	const float Before = Line->GetMeasuredWidth(StartIndex, Character);
-	const float Behind = Line->GetMeasuredWidth(StartIndex, Character + 1);
-	return float(HorizontalOffset) - Before < Behind - float(HorizontalOffset) ? Character : Character + 1;
+	const double Before = Line->GetMeasuredWidth(StartIndex, Character);
+	const double Behind = Line->GetMeasuredWidth(StartIndex, Character + 1);
+	return HorizontalOffset - Before < Behind - HorizontalOffset ? Character : Character + 1;
 }
 
 uint16 FSlateFontMeasure::GetMaxCharacterHeight(const FSlateFontInfo& InFontInfo, float FontScale) const

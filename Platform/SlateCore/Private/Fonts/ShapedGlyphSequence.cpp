@@ -1,6 +1,7 @@
 #include "Fonts/FontCache.h"
 
 #include "Fonts/FontFace.h"
+#include "Fonts/ShapedPieces.h"
 #include "Fonts/SizedFont.h"
 
 #include <algorithm>
@@ -20,19 +21,54 @@ FShapedGlyphSequence::FShapedGlyphSequence(FString&& InText, TArray<FShapedGlyph
 {
 }
 
+FShapedGlyphSequence::FShapedGlyphSequence(FString&& InText, TUniquePtr<FShapedPieces>&& InPieces, const FSlateSizedFont& InFont)
+	: Text(MoveTemp(InText))
+	, Pieces(MoveTemp(InPieces))
+	, OutlineColor(InFont.GetFontInfo().OutlineSettings.OutlineColor)
+	, OutlineWidth(InFont.GetOutlineWidth())
+	, Ascent(InFont.GetAscent())
+	, Descent(InFont.GetDescent())
+{
+}
+
 FShapedGlyphSequence::~FShapedGlyphSequence() = default;
 
-float FShapedGlyphSequence::GetMeasuredWidth(int32 StartIndex, int32 EndIndex) const
+void FShapedGlyphSequence::ForEachPart(
+	double Left, double Right, TFunctionRef<void(const FShapedGlyphSequence&, double)> Visit) const
+{
+	if (Pieces)
+	{
+		Pieces->ForEachPart(Left, Right, Visit);
+		return;
+	}
+	Visit(*this, 0.0);
+}
+
+bool FShapedGlyphSequence::HasRightToLeft() const
+{
+	return Pieces ? Pieces->HasRightToLeft() : Runs.Num() > 0;
+}
+
+double FShapedGlyphSequence::GetMeasuredWidth() const
+{
+	return Pieces ? Pieces->GetMeasuredWidth() : Offsets.Last();
+}
+
+double FShapedGlyphSequence::GetMeasuredWidth(int32 StartIndex, int32 EndIndex) const
 {
 	const int32 Start = FMath::Clamp(StartIndex, 0, Text.Len());
 	const int32 End = FMath::Clamp(EndIndex, Start, Text.Len());
-	return Offsets[End] - Offsets[Start];
+	return Pieces ? Pieces->GetMeasuredWidth(Start, End) : Offsets[End] - Offsets[Start];
 }
 
-int32 FShapedGlyphSequence::GetCharacterAtOffset(int32 StartIndex, float HorizontalOffset) const
+int32 FShapedGlyphSequence::GetCharacterAtOffset(int32 StartIndex, double HorizontalOffset) const
 {
 	const int32 Start = FMath::Clamp(StartIndex, 0, Text.Len());
-	const float* Behind = std::upper_bound(Offsets.begin() + Start, Offsets.end(), Offsets[Start] + HorizontalOffset);
+	if (Pieces)
+	{
+		return Pieces->GetCharacterAtOffset(Start, HorizontalOffset);
+	}
+	const float* Behind = std::upper_bound(Offsets.begin() + Start, Offsets.end(), Offsets[Start] + float(HorizontalOffset));
 	return FMath::Clamp(int32(Behind - Offsets.begin()) - 1, Start, Text.Len());
 }
 
@@ -47,9 +83,13 @@ float FShapedGlyphSequence::GetPlaceInRun(const FShapedTextRun& Run, float RunLe
 	return Run.bRightToLeft ? RunLeft + GetWidthOfRun(Run) - Before : RunLeft + Before;
 }
 
-float FShapedGlyphSequence::GetCaretOffset(int32 Index) const
+double FShapedGlyphSequence::GetCaretOffset(int32 Index) const
 {
 	const int32 Clamped = FMath::Clamp(Index, 0, Text.Len());
+	if (Pieces)
+	{
+		return Pieces->GetCaretOffset(Clamped);
+	}
 	// Behind the last character the caret stands at that one's end.
 	const int32 Character = FMath::Min(Clamped, Text.Len() - 1);
 	float Left = 0.0f;
@@ -64,8 +104,12 @@ float FShapedGlyphSequence::GetCaretOffset(int32 Index) const
 	return Offsets[Clamped];
 }
 
-int32 FShapedGlyphSequence::GetCaretAtOffset(float HorizontalOffset) const
+int32 FShapedGlyphSequence::GetCaretAtOffset(double HorizontalOffset) const
 {
+	if (Pieces)
+	{
+		return Pieces->GetCaretAtOffset(HorizontalOffset);
+	}
 	int32 Nearest = 0;
 	for (int32 Index = 1; Index <= Text.Len(); ++Index)
 	{
@@ -83,7 +127,15 @@ TArray<FVector2D> FShapedGlyphSequence::GetSpans(int32 StartIndex, int32 EndInde
 	const int32 End = FMath::Clamp(EndIndex, Start, Text.Len());
 	if (!HasRightToLeft())
 	{
+		if (Pieces)
+		{
+			return {FVector2D(Pieces->GetMeasuredWidth(0, Start), Pieces->GetMeasuredWidth(0, End))};
+		}
 		return {FVector2D(Offsets[Start], Offsets[End])};
+	}
+	if (Pieces)
+	{
+		return Pieces->GetSpans(Start, End);
 	}
 	TArray<FVector2D> Spans;
 	float Left = 0.0f;

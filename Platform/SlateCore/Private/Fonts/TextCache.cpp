@@ -3,7 +3,9 @@
 namespace
 {
 
-constexpr int32 MaxTextsOfGeneration = 4096;
+/** In UTF-16 units, each of which takes some thirty bytes; a text by itself counts as so many more. */
+constexpr int64 MaxWeightOfGeneration = 320 * 1024;
+constexpr int64 WeightOfText = 64;
 
 /** Mixes eight bytes at a time by multiplication. */
 uint32 HashText(const TCHAR* Text, int32 Length, uint32 Seed)
@@ -42,7 +44,7 @@ bool FSlateTextCache::FKey::operator==(const FKey& Other) const
 }
 
 FSlateTextCache::FSlateTextCache()
-	: Texts(MaxTextsOfGeneration)
+	: Texts(MaxWeightOfGeneration)
 {
 }
 
@@ -54,5 +56,5 @@ const FShapedGlyphSequenceRef* FSlateTextCache::Find(const TCHAR* Text, int32 Le
 const FShapedGlyphSequenceRef& FSlateTextCache::Add(uint32 FontId, const FShapedGlyphSequenceRef& Shaped)
 {
 	const FKey Key(*Shaped->GetText(), Shaped->GetText().Len(), FontId);
-	return Texts.Add(Key, FShapedGlyphSequenceRef(Shaped));
+	return Texts.Add(Key, FShapedGlyphSequenceRef(Shaped), WeightOfText + Key.Length);
 }

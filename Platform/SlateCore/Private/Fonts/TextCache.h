@@ -4,7 +4,7 @@
 #include "Caching/GenerationMap.h"
 #include "Fonts/FontCache.h"
 
-/** Shaped texts by font and text, bounded in number. */
+/** Shaped texts by font and text, bounded in memory. */
 class FSlateTextCache
 {
 public:

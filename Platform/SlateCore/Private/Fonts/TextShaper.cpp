@@ -4,6 +4,8 @@
 #include "Fonts/FontSystem.h"
 #include "Fonts/SizedFont.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -89,9 +91,18 @@ FSlateTextShaper::~FSlateTextShaper()
 	pango_glyph_string_free(SimpleGlyphs);
 }
 
-FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length, const FSlateSizedFont& Font)
+bool FSlateTextShaper::IsSimple(TCHAR Character)
 {
+	return GetSimpleScript(Character) != PANGO_SCRIPT_UNKNOWN;
+}
+
+void FSlateTextShaper::Begin(const TCHAR* Text, int32 Length)
+{
+	++NumShapedTexts;
+	NumShapedCharacters += Length;
 	Source = Text;
+	Utf8.Reset();
+	CharacterOfByte.Reset();
 	Glyphs.Reset();
 	Faces.Reset();
 	Runs.Reset();
@@ -100,19 +111,51 @@ FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length,
 	{
 		ClusterWidths.Add(-1.0f);
 	}
+}
+
+FShapedGlyphSequenceRef FSlateTextShaper::End(int32 Length, const FSlateSizedFont& Font) const
+{
+	return MakeShared<FShapedGlyphSequence>(FString(Length, Source), TArray<FShapedGlyphEntry>(Glyphs),
+		TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), TArray<FShapedTextRun>(Runs), Font);
+}
+
+FShapedGlyphSequenceRef FSlateTextShaper::Shape(const TCHAR* Text, int32 Length, const FSlateSizedFont& Font)
+{
+	Begin(Text, Length);
 	const bool bSimple = Encode(Text, Length);
 	if (Length > 0 && !(bSimple && ShapeSimpleText(Font)))
 	{
 		ShapeAnyText(Font);
 	}
-	return MakeShared<FShapedGlyphSequence>(FString(Length, Text), TArray<FShapedGlyphEntry>(Glyphs),
-		TArray<TSharedRef<FSlateFontFace>>(Faces), MakeOffsets(Length), TArray<FShapedTextRun>(Runs), Font);
+	return End(Length, Font);
+}
+
+FShapedGlyphSequenceRef FSlateTextShaper::ShapePiece(
+	const TCHAR* Text, int32 First, int32 Length, uint8 Level, const FSlateSizedFont& Font)
+{
+	Begin(Text + First, Length);
+	// A mark without a letter before would get a dotted circle to sit on.
+	const bool bWithinCluster = First > 0 && !IsSimple(Text[First]);
+	const int32 NumBefore = bWithinCluster ? FMath::Min(First, 2) : 0;
+	Encode(Text + First - NumBefore, NumBefore);
+	const int32 FirstByte = Utf8.Num();
+	CharacterOfByte.Reset();
+	CharacterOfByte.AddZeroed(FirstByte);
+
+	const bool bSimple = Encode(Text + First, Length) && Level == 0 && NumBefore == 0;
+	if (!(bSimple && ShapeSimpleText(Font)))
+	{
+		ShapeAtLevel(FirstByte, Level, Font);
+	}
+	if ((Level & 1) != 0)
+	{
+		Runs.Add({0, Length, true});
+	}
+	return End(Length, Font);
 }
 
 bool FSlateTextShaper::Encode(const TCHAR* Text, int32 Length)
 {
-	Utf8.Reset();
-	CharacterOfByte.Reset();
 	Script = PANGO_SCRIPT_COMMON;
 	bool bSimple = true;
 	for (int32 Index = 0; Index < Length;)
@@ -172,6 +215,83 @@ void FSlateTextShaper::ShapeAnyText(const FSlateSizedFont& Font)
 		Runs.Reset();
 	}
 	g_object_unref(Layout);
+}
+
+void FSlateTextShaper::ShapeAtLevel(int32 FirstByte, uint8 Level, const FSlateSizedFont& Font)
+{
+	PangoAttrList* Attributes = pango_attr_list_new();
+	pango_attr_list_insert(Attributes, pango_attr_font_desc_new(Font.GetDescription()));
+	GList* Items =
+		pango_itemize_with_base_dir(FontSystem.GetContext(), (Level & 1) != 0 ? PANGO_DIRECTION_RTL : PANGO_DIRECTION_LTR,
+			Utf8.GetData(), FirstByte, Utf8.Num() - FirstByte, Attributes, nullptr);
+	for (GList* Node = Items; Node; Node = Node->next)
+	{
+		// By itself the piece might have another one, as blanks have.
+		static_cast<PangoItem*>(Node->data)->analysis.level = Level;
+	}
+
+	GList* FromLeft = pango_reorder_items(Items);
+	for (GList* Node = FromLeft; Node; Node = Node->next)
+	{
+		const PangoItem& Item = *static_cast<const PangoItem*>(Node->data);
+		pango_shape_full(Utf8.GetData() + Item.offset, Item.length, Utf8.GetData(), Utf8.Num(), &Item.analysis, SimpleGlyphs);
+		AddRun(*SimpleGlyphs, Item.offset, GetFace(Item.analysis.font, Font));
+	}
+	g_list_free(FromLeft);
+	g_list_free_full(Items, [](gpointer Item) { pango_item_free(static_cast<PangoItem*>(Item)); });
+	pango_attr_list_unref(Attributes);
+}
+
+TArray<uint8> FSlateTextShaper::FindLevels(const TCHAR* Text, int32 Length)
+{
+	TArray<uint8> Levels;
+	// No character before the first of the Hebrew block is written from right to left.
+	if (!std::any_of(Text, Text + Length, [](TCHAR Character) { return Character >= 0x0590; }))
+	{
+		return Levels;
+	}
+	Utf8.Reset();
+	CharacterOfByte.Reset();
+	Encode(Text, Length);
+	PangoDirection Direction = PANGO_DIRECTION_NEUTRAL;
+	guint8* LevelsOfCodePoints = pango_log2vis_get_embedding_levels(Utf8.GetData(), Utf8.Num(), &Direction);
+	bool bAnyRightToLeft = false;
+	const guint8* Level = LevelsOfCodePoints;
+	Levels.Reserve(Length);
+	for (int32 Index = 0; Index < Length; ++Level)
+	{
+		TakeCodePoint(Text, Length, Index);
+		while (Levels.Num() < Index)
+		{
+			Levels.Add(*Level);
+		}
+		bAnyRightToLeft |= (*Level & 1) != 0;
+	}
+	g_free(LevelsOfCodePoints);
+	return bAnyRightToLeft ? Levels : TArray<uint8>();
+}
+
+int32 FSlateTextShaper::FindLastClusterBreak(const TCHAR* Text, int32 Offset, int32 Length)
+{
+	// What comes behind decides, too; a few characters are enough.
+	constexpr int32 NumBehind = 16;
+	const int32 End = FMath::Min(Offset + NumBehind, Length);
+	TArray<ANSICHAR> Window;
+	TArray<int32> Indices;
+	for (int32 Index = 0; Index < End;)
+	{
+		Indices.Add(Index);
+		AppendUtf8(Window, TakeCodePoint(Text, End, Index));
+	}
+	TArray<PangoLogAttr> Attributes;
+	Attributes.AddZeroed(Indices.Num() + 1);
+	pango_default_break(Window.GetData(), Window.Num(), nullptr, Attributes.GetData(), Attributes.Num());
+	int32 Last = 0;
+	for (int32 Character = 0; Character < Indices.Num() && Indices[Character] <= Offset; ++Character)
+	{
+		Last = Attributes[Character].is_cursor_position ? Indices[Character] : Last;
+	}
+	return Last;
 }
 
 float FSlateTextShaper::GetAdvance(const PangoGlyphInfo& Glyph, TCHAR Character) const

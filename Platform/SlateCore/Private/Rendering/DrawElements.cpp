@@ -77,7 +77,7 @@ void FSlateDrawElement::MakeText(FSlateWindowElementList& ElementList, uint32 In
 void FSlateDrawElement::MakeShapedText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
 	const FShapedGlyphSequenceRef& InShapedGlyphSequence, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint)
 {
-	if (InShapedGlyphSequence->GetGlyphs().Num() == 0 || IsHidden(ElementList, InTint))
+	if (InShapedGlyphSequence->GetText().IsEmpty() || IsHidden(ElementList, InTint))
 	{
 		return;
 	}

@@ -19,10 +19,13 @@ constexpr float DisabledOpacity = 0.45f;
 /** Coordinates beyond this lie outside of any window; bounding them keeps sums within 32 bits. */
 constexpr double Far = 1.0e6;
 
+/** A row of text may begin far to the left of a window and reach into it. Whole pixels as floats are exact up to here. */
+constexpr double FarText = 16777216.0;
+
 /** Rounds to the nearest; moved into the positive numbers, where cutting off is rounding down. */
-int32 ToPixel(double Coordinate)
+int32 ToPixel(double Coordinate, double Bound = Far)
 {
-	return NarrowNumber<int32>(FMath::Clamp(Coordinate, -Far, Far) + (Far + 0.5)) - int32(Far);
+	return NarrowNumber<int32>(FMath::Clamp(Coordinate, -Bound, Bound) + (Bound + 0.5)) - int32(Bound);
 }
 
 /** Whole pixels: both sides are rounded, so that boxes which touch still do. */
@@ -108,6 +111,35 @@ void FillFrame(FPixelBuffer& Target, const FIntRect& Clip, const FIntRect& Box, 
 	PixelBlend::FillRect(Target, Clip, FIntRect(Box.Min.X, Hole.Min.Y, Hole.Min.X, Hole.Max.Y), Color);
 	PixelBlend::FillRect(Target, Clip, FIntRect(Hole.Max.X, Hole.Min.Y, Box.Max.X, Hole.Max.Y), Color);
 	PixelBlend::FillRect(Target, Clip, FIntRect(Box.Min.X, Hole.Max.Y, Box.Max.X, Box.Max.Y), Color);
+}
+
+/** The glyphs of a text whose pen starts Pen pixels to the right of Origin on the baseline. */
+void PaintGlyphs(const FShapedGlyphSequence& Text, const FIntPoint& Origin, float Pen, int32 OutlineWidth, FPixelColor Color,
+	FPixelBuffer& Target, const FIntRect& Clip)
+{
+	for (const FShapedGlyphEntry& Glyph : Text.GetGlyphs())
+	{
+		constexpr int32 NumSubPositions = FSlateFontFace::NumSubPositions;
+		const int32 Quarters = FMath::FloorToInt((Pen + Glyph.XOffset) * NumSubPositions + 0.5f);
+		const FIntPoint Position(Origin.X + (Quarters >> 2), Origin.Y + FMath::RoundToInt(Glyph.YOffset));
+		if (Position.X > Clip.Max.X + Text.GetMaxTextHeight())
+		{
+			break;
+		}
+		if (Glyph.bIsMissing)
+		{
+			const FIntPoint Size(FMath::RoundToInt(Glyph.XAdvance), Text.GetMaxTextHeight() * 2 / 3);
+			const FIntRect Frame(Position.X + 1, Position.Y - Size.Y, Position.X + Size.X - 1, Position.Y);
+			FillFrame(Target, Clip, Frame, FMargin(1.0f), Color.Premultiplied());
+		}
+		else if (float(Position.X) + Glyph.XAdvance + float(Text.GetMaxTextHeight()) > float(Clip.Min.X))
+		{
+			FSlateFontFace& Face = *Text.GetFaces()[Glyph.FaceIndex];
+			PixelBlend::DrawGlyph(
+				Target, Clip, Position, Face.GetGlyph(Glyph.GlyphIndex, Quarters & (NumSubPositions - 1), OutlineWidth), Color);
+		}
+		Pen += Glyph.XAdvance;
+	}
 }
 
 /** A Cairo context on a buffer, cut at a rectangle. */
@@ -210,6 +242,7 @@ bool FSlateElementPainter::PlaceElement(
 		{
 			Out.Text = GetText(List, Element);
 			const int32 Height = Out.Text->GetMaxTextHeight();
+			Out.Box.Min.X = ToPixel(Element.GetX(), FarText);
 			Out.Box.Max = Out.Box.Min + FIntPoint(FMath::CeilToInt(Out.Text->GetMeasuredWidth()), Height);
 			// Accents, slanted letters and fallback fonts reach beyond the line.
 			const int32 Reach = Height + Out.Text->GetOutlineWidth();
@@ -391,39 +424,23 @@ void FSlateElementPainter::PaintText(
 {
 	const FShapedGlyphSequence& Text = *Element.Text;
 	const int32 Baseline = Box.Min.Y + Text.GetMaxTextHeight() + Text.GetTextBaseline();
-	const auto PaintGlyphs = [&](int32 OutlineWidth, FPixelColor Color)
+	const double Reach = Text.GetMaxTextHeight() + Text.GetOutlineWidth();
+	const auto PaintAll = [&](int32 OutlineWidth, FPixelColor Color)
 	{
-		float Pen = 0.0f;
-		for (const FShapedGlyphEntry& Glyph : Text.GetGlyphs())
-		{
-			constexpr int32 NumSubPositions = FSlateFontFace::NumSubPositions;
-			const int32 Quarters = FMath::FloorToInt((Pen + Glyph.XOffset) * NumSubPositions + 0.5f);
-			const FIntPoint Position(Box.Min.X + (Quarters >> 2), Baseline + FMath::RoundToInt(Glyph.YOffset));
-			if (Position.X > Clip.Max.X + Text.GetMaxTextHeight())
+		Text.ForEachPart(Clip.Min.X - Box.Min.X - Reach, Clip.Max.X - Box.Min.X + Reach,
+			[&](const FShapedGlyphSequence& Part, double Left)
 			{
-				break;
-			}
-			if (Glyph.bIsMissing)
-			{
-				const FIntPoint Size(FMath::RoundToInt(Glyph.XAdvance), Text.GetMaxTextHeight() * 2 / 3);
-				const FIntRect Frame(Position.X + 1, Position.Y - Size.Y, Position.X + Size.X - 1, Position.Y);
-				FillFrame(Target, Clip, Frame, FMargin(1.0f), Color.Premultiplied());
-			}
-			else if (float(Position.X) + Glyph.XAdvance + float(Text.GetMaxTextHeight()) > float(Clip.Min.X))
-			{
-				FSlateFontFace& Face = *Text.GetFaces()[Glyph.FaceIndex];
-				PixelBlend::DrawGlyph(Target, Clip, Position,
-					Face.GetGlyph(Glyph.GlyphIndex, Quarters & (NumSubPositions - 1), OutlineWidth), Color);
-			}
-			Pen += Glyph.XAdvance;
-		}
+				const int32 WholePixels = FMath::FloorToInt(Left);
+				PaintGlyphs(Part, FIntPoint(Box.Min.X + WholePixels, Baseline), float(Left - WholePixels), OutlineWidth, Color,
+					Target, Clip);
+			});
 	};
 
 	if (Text.GetOutlineWidth() > 0)
 	{
-		PaintGlyphs(Text.GetOutlineWidth(), GetColor(*Element.Element, Text.GetOutlineColor()));
+		PaintAll(Text.GetOutlineWidth(), GetColor(*Element.Element, Text.GetOutlineColor()));
 	}
-	PaintGlyphs(0, Element.Color);
+	PaintAll(0, Element.Color);
 }
 
 void FSlateElementPainter::PaintLines(

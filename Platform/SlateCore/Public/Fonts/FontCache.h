@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 
+class FShapedPieces;
 class FSlateFontFace;
 class FSlateSizedFont;
 struct FSlateFontInfo;
@@ -27,35 +28,49 @@ struct FShapedTextRun
 	bool bRightToLeft = false;
 };
 
-/** A text as glyphs of certain fonts at a certain size. Indices are UTF-16 offsets from the beginning of the text. */
+/**
+ * A text as glyphs of certain fonts at a certain size. Indices are UTF-16 offsets from the beginning of the text.
+ *
+ * A long text has no glyphs of its own: it consists of parts, which have (ForEachPart).
+ */
 class SLATECORE_API FShapedGlyphSequence
 {
 public:
 	FShapedGlyphSequence(FString&& InText, TArray<FShapedGlyphEntry>&& InGlyphs, TArray<TSharedRef<FSlateFontFace>>&& InFaces,
 		TArray<float>&& InOffsets, TArray<FShapedTextRun>&& InRuns, const FSlateSizedFont& InFont);
+	FShapedGlyphSequence(FString&& InText, TUniquePtr<FShapedPieces>&& InPieces, const FSlateSizedFont& InFont);
 	~FShapedGlyphSequence();
 
 	const FString& GetText() const { return Text; }
 	const TArray<FShapedGlyphEntry>& GetGlyphs() const { return Glyphs; }
 	const TArray<TSharedRef<FSlateFontFace>>& GetFaces() const { return Faces; }
 
+	/** The parts of a long text; null for another one. */
+	const FShapedPieces* GetPieces() const { return Pieces.Get(); }
+
+	/**
+	 * Calls Visit, from left to right, with each part that may show between Left and Right, pixels from the left end of the row,
+	 * and the left end of the part. A text that is not long is its only part.
+	 */
+	void ForEachPart(double Left, double Right, TFunctionRef<void(const FShapedGlyphSequence&, double)> Visit) const;
+
 	/** Width of all glyphs; a fraction of a pixel may remain. */
-	float GetMeasuredWidth() const { return Offsets.Last(); }
+	double GetMeasuredWidth() const;
 
 	/** Width of the characters [StartIndex, EndIndex). A ligature's width is divided among its characters. */
-	float GetMeasuredWidth(int32 StartIndex, int32 EndIndex) const;
+	double GetMeasuredWidth(int32 StartIndex, int32 EndIndex) const;
 
 	/** The character that lies HorizontalOffset pixels behind StartIndex in reading order; the text's length when none does. */
-	int32 GetCharacterAtOffset(int32 StartIndex, float HorizontalOffset) const;
+	int32 GetCharacterAtOffset(int32 StartIndex, double HorizontalOffset) const;
 
 	/** Whether a part of the text runs from right to left, so that places in the row are not those in reading order. */
-	bool HasRightToLeft() const { return Runs.Num() > 0; }
+	bool HasRightToLeft() const;
 
 	/** Where the caret stands in front of a character, or behind the last one, in pixels from the left end of the row. */
-	float GetCaretOffset(int32 Index) const;
+	double GetCaretOffset(int32 Index) const;
 
 	/** The index whose caret is nearest to a place in the row. */
-	int32 GetCaretAtOffset(float HorizontalOffset) const;
+	int32 GetCaretAtOffset(double HorizontalOffset) const;
 
 	/** The parts of the row that the characters [StartIndex, EndIndex) take up, from left to right; X is where one begins, Y its end. */
 	TArray<FVector2D> GetSpans(int32 StartIndex, int32 EndIndex) const;
@@ -82,6 +97,8 @@ private:
 	TArray<float> Offsets;
 	/** From left to right. Empty where all of the text runs from left to right. */
 	TArray<FShapedTextRun> Runs;
+	/** Of a long text; nothing of the above is set then. */
+	TUniquePtr<FShapedPieces> Pieces;
 	FLinearColor OutlineColor;
 	int32 OutlineWidth;
 	int32 Ascent;
@@ -117,9 +134,12 @@ public:
 	/** From the bottom of a line to the baseline, in whole pixels: zero or negative. */
 	int16 GetBaseline(const FSlateFontInfo& InFontInfo, float FontScale) const;
 
-	/** How many shaped texts are kept, and how often a text had to be shaped since the start. */
+	/** How many shaped texts are kept, long ones not counted, and how often a text had to be shaped since the start. */
 	int32 GetNumCachedTexts() const;
 	uint64 GetNumShapedTexts() const;
+
+	/** UTF-16 units that were shaped since the start: what was found in the cache cost none. */
+	uint64 GetNumShapedCharacters() const;
 
 private:
 	class FImplementation;

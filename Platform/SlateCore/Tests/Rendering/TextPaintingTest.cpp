@@ -124,6 +124,21 @@ TEST(TextPainting, ShapedTextLooksLikeTheText)
 	EXPECT_EQ(Plain.Pixels, Shaped.Pixels);
 }
 
+TEST(TextPainting, TheEndOfAVeryLongLineIsSeenWhereItIsMovedIntoView)
+{
+	FString Zeros;
+	for (int32 Index = 0; Index < 240000; ++Index)
+	{
+		Zeros += TEXT("0");
+	}
+	FRenderCanvas Canvas(FIntPoint(100, 20));
+	const double Width = Canvas.Renderer->GetFontMeasureService()->Measure(Zeros, Font).X;
+	ASSERT_GT(Width, 1.5e6);
+	PaintText(Canvas, *Zeros, MakeGeometry(50.0 - Width, 3.0, 100.0, 14.0));
+	EXPECT_LE(FindInk(Canvas).Min.X, 1);
+	EXPECT_NEAR(FindInk(Canvas).Max.X, 50, 2);
+}
+
 TEST(TextPainting, AnOutlineSurroundsTheLettersInItsColour)
 {
 	FRenderCanvas Canvas(FIntPoint(100, 60));

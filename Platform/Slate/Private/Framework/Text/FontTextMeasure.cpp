@@ -66,7 +66,7 @@ int32 FFontTextMeasure::GetNearestIndex(const FString& Row, float Distance) cons
 float FFontTextMeasure::GetCaretDistance(const FString& Row, int32 Index) const
 {
 	const FShapedGlyphSequencePtr Shaped = ShapeIfRightToLeft(Row);
-	return Shaped.IsValid() ? FMath::RoundToFloat(Shaped->GetCaretOffset(Index)) / Scale
+	return Shaped.IsValid() ? FMath::RoundToFloat(float(Shaped->GetCaretOffset(Index))) / Scale
 							: ITextMeasure::GetCaretDistance(Row, Index);
 }
 
