@@ -8,9 +8,13 @@
 namespace
 {
 
-constexpr int32 MaxKept = 4;
+/** The rows of a large window, if all of them are long. */
+constexpr int32 MaxKept = 128;
 /** Of all that are kept, but for the last. A unit of a shaped text takes some thirty bytes. */
 constexpr int32 MaxUnitsKept = 1 << 20;
+
+/** A text that shares all but so many units is looked no further for a better one. */
+constexpr int32 FewUnits = 512;
 
 /** A piece ends at the first blank behind so many units ... */
 constexpr int32 MinPiece = 128;
@@ -111,6 +115,10 @@ void FSlateLongTexts::TakeOver(FTask& Task) const
 			Base = Candidate.Shaped.operator->();
 			HeadLength = Head;
 			TailLength = Tail;
+		}
+		if (HeadLength + TailLength + FewUnits >= Task.Length)
+		{
+			break;
 		}
 	}
 	if (!Base)

@@ -7,7 +7,7 @@ class FSlateSizedFont;
 class FSlateTextShaper;
 
 /**
- * Shapes texts of more than MinLength units in pieces, and keeps the last few of them: a text that differs from one of these
+ * Shapes texts of more than MinLength units in pieces, and keeps the last ones: a text that differs from one of these
  * in one place takes over the pieces before and behind it. So a key in a long line shapes two or three pieces.
  */
 class FSlateLongTexts

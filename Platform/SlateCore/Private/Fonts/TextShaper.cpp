@@ -251,8 +251,12 @@ TArray<uint8> FSlateTextShaper::FindLevels(const TCHAR* Text, int32 Length)
 		return Levels;
 	}
 	Utf8.Reset();
-	CharacterOfByte.Reset();
-	Encode(Text, Length);
+	Utf8.Reserve(Length * 2);
+	for (int32 Index = 0; Index < Length;)
+	{
+		const uint32 CodePoint = TakeCodePoint(Text, Length, Index);
+		AppendUtf8(Utf8, IsControl(CodePoint) ? ' ' : CodePoint);
+	}
 	PangoDirection Direction = PANGO_DIRECTION_NEUTRAL;
 	guint8* LevelsOfCodePoints = pango_log2vis_get_embedding_levels(Utf8.GetData(), Utf8.Num(), &Direction);
 	bool bAnyRightToLeft = false;

@@ -79,6 +79,20 @@ TEST_F(FLongTextsTest, TheSameTextIsNotShapedAgain)
 	EXPECT_EQ(CountShaped(Text), 0);
 }
 
+TEST_F(FLongTextsTest, TheRowsOfAWindowAreShapedOnce)
+{
+	TArray<FString> Rows;
+	for (int32 Row = 0; Row < 60; ++Row)
+	{
+		Rows.Add(FString::Printf(TEXT("Row %d: "), Row) + Repeat(Kinds[0], 100));
+		Shape(Rows.Last());
+	}
+	for (const FString& Row : Rows)
+	{
+		EXPECT_EQ(CountShaped(Row), 0);
+	}
+}
+
 TEST_F(FLongTextsTest, AChangedTextHasThePlacesThatItHasWhenItIsShapedWhole)
 {
 	for (const TCHAR* Kind : Kinds)
