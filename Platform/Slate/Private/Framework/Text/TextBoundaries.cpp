@@ -10,8 +10,8 @@ namespace TextBoundaries
 {
 namespace
 {
-/** The shared iterator of one kind, set to a line. Opening one costs far more than setting it. */
-UBreakIterator* SetIterator(UBreakIteratorType Type, const FString& Line)
+/** The shared iterator of one kind, set to a line from Begin on. Opening one costs far more than setting it. */
+UBreakIterator* SetIterator(UBreakIteratorType Type, const FString& Line, int32 Begin = 0)
 {
 	static UBreakIterator* Iterators[UBRK_LINE + 1] = {};
 
@@ -21,7 +21,7 @@ UBreakIterator* SetIterator(UBreakIteratorType Type, const FString& Line)
 	{
 		Iterator = ubrk_open(Type, "", nullptr, 0, &Status);
 	}
-	ubrk_setText(Iterator, *Line, Line.Len(), &Status);
+	ubrk_setText(Iterator, *Line + Begin, Line.Len() - Begin, &Status);
 	return Iterator;
 }
 
@@ -31,12 +31,7 @@ bool StandsAlone(TCHAR Character)
 	return Character >= 0x20 && Character < 0x7f;
 }
 
-/** The last boundary of a kind at or before Offset, or 0. */
-int32 GetLastBreak(UBreakIteratorType Type, const FString& Line, int32 Offset)
-{
-	UBreakIterator* const Iterator = SetIterator(Type, Line);
-	return ubrk_isBoundary(Iterator, Offset) ? Offset : FMath::Max(ubrk_preceding(Iterator, Offset), 0);
-}
+uint64 GNumUnitsPassed = 0;
 
 bool IsBlank(const FString& Line, int32 Offset)
 {
@@ -73,11 +68,6 @@ int32 GetNextCharacter(const FString& Line, int32 Offset)
 	return Next == UBRK_DONE ? Line.Len() : Next;
 }
 
-int32 GetLastCharacterBreak(const FString& Line, int32 Offset)
-{
-	return GetLastBreak(UBRK_CHARACTER, Line, Offset);
-}
-
 int32 GetPreviousWord(const FString& Line, int32 Offset)
 {
 	UBreakIterator* const Iterator = SetIterator(UBRK_WORD, Line);
@@ -112,14 +102,34 @@ FTextRange GetWordAt(const FString& Line, int32 Offset)
 	return FTextRange(ubrk_previous(Iterator), End);
 }
 
-int32 GetLastRowBreak(const FString& Line, int32 Offset)
+FForwardBreaks::FForwardBreaks(EBreak Kind, const FString& Line, int32 InBegin)
+	: Iterator(SetIterator(Kind == EBreak::Row ? UBRK_LINE : UBRK_CHARACTER, Line, InBegin))
+	, Begin(InBegin)
+	, Length(Line.Len())
+	, Last(InBegin)
+	, Next(InBegin)
 {
-	return GetLastBreak(UBRK_LINE, Line, Offset);
+	Step();
 }
 
-int32 GetNextRowBreak(const FString& Line, int32 Offset)
+void FForwardBreaks::Step()
 {
-	const int32 Next = ubrk_following(SetIterator(UBRK_LINE, Line), Offset);
-	return Next == UBRK_DONE ? Line.Len() : Next;
+	const int32 Found = ubrk_next(Iterator);
+	Last = Next;
+	Next = Found == UBRK_DONE ? Length : Begin + Found;
+	GNumUnitsPassed += Next - Last;
+}
+
+void FForwardBreaks::MoveTo(int32 Offset)
+{
+	while (Next <= Offset && Next < Length)
+	{
+		Step();
+	}
+}
+
+uint64 FForwardBreaks::GetNumUnitsPassed()
+{
+	return GNumUnitsPassed;
 }
 }

@@ -25,8 +25,13 @@ TEST(TextBoundaries, CharacterStepsEndAtTheLine)
 TEST(TextBoundaries, TheLastCharacterBreakIsThePlaceItselfIfItIsOne)
 {
 	const FString Accent = TEXT("ae\u0301b");
-	EXPECT_EQ(GetLastCharacterBreak(Accent, 2), 1);
-	EXPECT_EQ(GetLastCharacterBreak(Accent, 3), 3);
+	FForwardBreaks Breaks(EBreak::Character, Accent, 0);
+	Breaks.MoveTo(2);
+	EXPECT_EQ(Breaks.GetLast(), 1);
+	EXPECT_EQ(Breaks.GetNext(), 3);
+	Breaks.MoveTo(3);
+	EXPECT_EQ(Breaks.GetLast(), 3);
+	EXPECT_EQ(Breaks.GetNext(), 4);
 }
 
 TEST(TextBoundaries, WordStepsPassOverBlanksAndStopAtMarks)
@@ -56,10 +61,25 @@ TEST(TextBoundaries, AWordIsFoundFromAnyPlaceInIt)
 TEST(TextBoundaries, RowsEndBehindBlanksAndHyphens)
 {
 	const FString Line = TEXT("well-known fact");
-	EXPECT_EQ(GetNextRowBreak(Line, 0), 5);
-	EXPECT_EQ(GetNextRowBreak(Line, 5), 11);
-	EXPECT_EQ(GetNextRowBreak(Line, 11), 15);
-	EXPECT_EQ(GetLastRowBreak(Line, 10), 5);
-	EXPECT_EQ(GetLastRowBreak(Line, 11), 11);
-	EXPECT_EQ(GetLastRowBreak(Line, 3), 0);
+	FForwardBreaks Breaks(EBreak::Row, Line, 0);
+	EXPECT_EQ(Breaks.GetLast(), 0);
+	EXPECT_EQ(Breaks.GetNext(), 5);
+	Breaks.MoveTo(3);
+	EXPECT_EQ(Breaks.GetLast(), 0);
+	Breaks.MoveTo(10);
+	EXPECT_EQ(Breaks.GetLast(), 5);
+	EXPECT_EQ(Breaks.GetNext(), 11);
+	Breaks.MoveTo(11);
+	EXPECT_EQ(Breaks.GetLast(), 11);
+	EXPECT_EQ(Breaks.GetNext(), 15);
+	Breaks.MoveTo(15);
+	EXPECT_EQ(Breaks.GetNext(), 15);
+}
+
+TEST(TextBoundaries, AWalkOverBreaksMayBeginAtAnyOfThem)
+{
+	const FString Line = TEXT("well-known fact");
+	FForwardBreaks Breaks(EBreak::Row, Line, 5);
+	EXPECT_EQ(Breaks.GetLast(), 5);
+	EXPECT_EQ(Breaks.GetNext(), 11);
 }
