@@ -123,6 +123,7 @@ FTextChange FTextDocument::Replace(const FTextSelection& Range, const FString& T
 
 	FTextChange Change;
 	Change.FirstLine = Begin.GetLineIndex();
+	Change.Begin = Begin;
 	Change.NumRemovedLines = End.GetLineIndex() - Begin.GetLineIndex() + 1;
 	Change.NumInsertedLines = NewLines.Num();
 

@@ -11,6 +11,7 @@ struct FTextChange
 	int32 NumRemovedLines = 0;
 	int32 NumInsertedLines = 0;
 
+	FTextLocation Begin;
 	/** Behind the inserted text. */
 	FTextLocation End;
 };

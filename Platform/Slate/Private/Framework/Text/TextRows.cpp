@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+DEFINE_LOG_CATEGORY_STATIC(LogSlateText, Log, All);
+
 namespace
 {
 /** Up to this many characters a document is measured whole, so that its size is exact from the start. */
@@ -87,16 +89,43 @@ void FTextRows::OnReplaced(const FTextChange& Change)
 	FirstRows.Reset();
 	if (Change.NumRemovedLines == 1 && Change.NumInsertedLines == 1)
 	{
-		Lines[Change.FirstLine].bMeasured = false;
+		FLine& Line = Lines[Change.FirstLine];
+		Line.bMeasured = false;
+		Line.Wrap.SameAtFront = FMath::Min(Line.Wrap.SameAtFront, Change.Begin.GetOffset());
+		Line.Wrap.SameAtEnd = FMath::Min(Line.Wrap.SameAtEnd, Document.GetLine(Change.FirstLine).Len() - Change.End.GetOffset());
 		return;
 	}
 	Lines.RemoveAt(Change.FirstLine, Change.NumRemovedLines);
 	Lines.InsertDefaulted(Change.FirstLine, Change.NumInsertedLines);
 }
 
+int32 FTextRows::GetShownLength(int32 LineIndex) const
+{
+	const FString& Line = Document.GetLine(LineIndex);
+	if (Line.Len() <= MaxLineLength)
+	{
+		return Line.Len();
+	}
+	const bool bWithinPair = (Line[MaxLineLength] & 0xFC00) == 0xDC00;
+	return MaxLineLength - (bWithinPair ? 1 : 0);
+}
+
+void FTextRows::TellIfTooLong(int32 LineIndex) const
+{
+	FLine& Line = Lines[LineIndex];
+	const int32 Length = Document.GetLine(LineIndex).Len();
+	if (Length > MaxLineLength && !Line.bToldTooLong)
+	{
+		UE_LOG(LogSlateText, Warning, TEXT("A line of %d characters is too long to be shown whole; the first %d are shown."),
+			Length, MaxLineLength);
+	}
+	Line.bToldTooLong = Length > MaxLineLength;
+}
+
 FString FTextRows::GetShownText(int32 LineIndex, const FTextRange& Range) const
 {
-	FString Shown = Document.GetLine(LineIndex).Mid(Range.BeginIndex, Range.Len());
+	const int32 End = FMath::Min(Range.EndIndex, GetShownLength(LineIndex));
+	FString Shown = Document.GetLine(LineIndex).Mid(Range.BeginIndex, End - Range.BeginIndex);
 	for (int32 Index = 0; Index < Shown.Len(); ++Index)
 	{
 		if (Format.bPassword)
@@ -119,24 +148,43 @@ const FTextRows::FLine& FTextRows::MeasureLine(int32 LineIndex) const
 		return Line;
 	}
 
-	const FString Shown = GetShownText(LineIndex, FTextRange(0, Document.GetLine(LineIndex).Len()));
+	TellIfTooLong(LineIndex);
 	const int32 RowsBefore = FirstRows.Num() == 0 ? 0 : FirstRows[LineIndex + 1] - FirstRows[LineIndex];
-	Line.RowBegins = WrapLine(Shown, Format.WrapWidth, Format.WrappingPolicy, *Measure);
+	const FString Shown = GetShownText(LineIndex, FTextRange(0, GetShownLength(LineIndex)));
+	// A line that is too long is cut at another place each time.
+	Line.Wrap.SameAtEnd = Line.bToldTooLong ? 0 : Line.Wrap.SameAtEnd;
+	int32 SameAtFront = 0;
+	int32 SameAtEnd = 0;
+	TArray<int32> RowBegins =
+		WrapChangedLine(Shown, Format.WrapWidth, Format.WrappingPolicy, *Measure, Line.Wrap, SameAtFront, SameAtEnd);
+
+	const int32 NumRows = RowBegins.Num() + 1;
+	TArray<float> RowWidths;
+	RowWidths.Reserve(NumRows);
+	for (int32 RowIndex = 0; RowIndex < NumRows; ++RowIndex)
+	{
+		const int32 FromEnd = NumRows - RowIndex;
+		if (RowIndex < SameAtFront || FromEnd <= SameAtEnd)
+		{
+			RowWidths.Add(Line.RowWidths[RowIndex < SameAtFront ? RowIndex : Line.RowWidths.Num() - FromEnd]);
+			continue;
+		}
+		const int32 Begin = RowIndex == 0 ? 0 : RowBegins[RowIndex - 1];
+		const bool bWrapped = FromEnd > 1;
+		const FString Row = Shown.Mid(Begin, (bWrapped ? RowBegins[RowIndex] : Shown.Len()) - Begin);
+		RowWidths.Add(Measure->GetWidth(Row, bWrapped ? GetLenWithoutBlanks(Row) : Row.Len()));
+	}
+	Line.Width = *std::max_element(RowWidths.begin(), RowWidths.end());
+	Line.RowWidths = NumRows > 1 ? MoveTemp(RowWidths) : TArray<float>();
+	Line.Wrap.RowBegins = MoveTemp(RowBegins);
+	Line.Wrap.Length = Shown.Len();
+	Line.Wrap.SameAtFront = Shown.Len();
+	Line.Wrap.SameAtEnd = Line.bToldTooLong ? 0 : Shown.Len();
 	Line.bMeasured = true;
-	if (RowsBefore != Line.RowBegins.Num() + 1)
+	if (RowsBefore != NumRows)
 	{
 		FirstRows.Reset();
 	}
-
-	int32 Begin = 0;
-	Line.Width = 0.0f;
-	for (const int32 End : Line.RowBegins)
-	{
-		const FString Row = Shown.Mid(Begin, End - Begin);
-		Line.Width = FMath::Max(Line.Width, Measure->GetWidth(Row, GetLenWithoutBlanks(Row)));
-		Begin = End;
-	}
-	Line.Width = FMath::Max(Line.Width, Measure->GetWidth(Shown.Mid(Begin), Shown.Len() - Begin));
 	return Line;
 }
 
@@ -146,7 +194,7 @@ int32 FTextRows::EstimateRows(int32 LineIndex) const
 	{
 		return 1;
 	}
-	const float Width = Document.GetLine(LineIndex).Len() * GUsualAdvance * Measure->GetLineHeight();
+	const float Width = GetShownLength(LineIndex) * GUsualAdvance * Measure->GetLineHeight();
 	return FMath::Max(FMath::CeilToInt(Width / Format.WrapWidth), 1);
 }
 
@@ -183,7 +231,7 @@ void FTextRows::CountRows() const
 	for (int32 LineIndex = 0; LineIndex < Lines.Num(); ++LineIndex)
 	{
 		FirstRows.Add(Count);
-		Count += Lines[LineIndex].bMeasured ? Lines[LineIndex].RowBegins.Num() + 1 : EstimateRows(LineIndex);
+		Count += Lines[LineIndex].bMeasured ? Lines[LineIndex].Wrap.RowBegins.Num() + 1 : EstimateRows(LineIndex);
 	}
 	FirstRows.Add(Count);
 }
@@ -242,7 +290,7 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 		LineIndex = GetLineOfRow(RowIndex);
 	}
 
-	const TArray<int32>& RowBegins = Lines[LineIndex].RowBegins;
+	const TArray<int32>& RowBegins = Lines[LineIndex].Wrap.RowBegins;
 	const int32 RowInLine = FMath::Clamp(RowIndex - FirstRows[LineIndex], 0, RowBegins.Num());
 
 	FTextRow Row;
@@ -260,7 +308,7 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 int32 FTextRows::GetRowIndex(const FTextCaret& Caret) const
 {
 	const int32 LineIndex = Caret.Location.GetLineIndex();
-	const TArray<int32>& RowBegins = MeasureLine(LineIndex).RowBegins;
+	const TArray<int32>& RowBegins = MeasureLine(LineIndex).Wrap.RowBegins;
 	const int32 Offset = Caret.Location.GetOffset();
 	const int32 RowInLine = CountUpTo(RowBegins, Caret.bAtRowEnd ? Offset - 1 : Offset);
 	CountRows();

@@ -5,6 +5,7 @@
 #include "Framework/Text/TextLayout.h"
 #include "Framework/Text/TextMeasure.h"
 #include "Framework/Text/TextRange.h"
+#include "Framework/Text/TextWrap.h"
 #include "Math/Vector2D.h"
 #include "Templates/UniquePtr.h"
 
@@ -29,7 +30,8 @@ struct FTextRow
 	int32 LineIndex = 0;
 	FTextRange Range;
 
-	/** As it is shown, unit for unit: control characters as blanks, a password as bullets. */
+	/** As it is shown, unit for unit: control characters as blanks, a password as bullets. Shorter than the range where the line is too
+	 * long. */
 	FString Text;
 
 	/** Left edge and top within the text, in Slate units. */
@@ -62,10 +64,15 @@ struct FTextRowFormat
  *
  * Short documents are measured whole. In long ones a line is measured when it is looked at; until then the number of its rows
  * and its width are estimated, so sizes may change slightly while a view moves over the text.
+ *
+ * Of a line longer than MaxLineLength only so much is shown, with one Warning in LogSlateText.
  */
 class SLATE_API FTextRows
 {
 public:
+	/** In UTF-16 units. Layout takes about a second up to here, and places in a row are whole pixels as floats. */
+	static constexpr int32 MaxLineLength = 1 << 20;
+
 	explicit FTextRows(const FTextDocument& InDocument);
 	~FTextRows();
 
@@ -107,13 +114,18 @@ public:
 private:
 	struct FLine
 	{
-		/** Where the rows after the first begin. */
-		TArray<int32> RowBegins;
+		/** Where the rows after the first begin, when the line was measured last, and how much of it changed since. */
+		FTextWrapBefore Wrap;
+		/** Only of a line of several rows. */
+		TArray<float> RowWidths;
 		float Width = 0.0f;
 		bool bMeasured = false;
+		bool bToldTooLong = false;
 	};
 
+	int32 GetShownLength(int32 LineIndex) const;
 	FString GetShownText(int32 LineIndex, const FTextRange& Range) const;
+	void TellIfTooLong(int32 LineIndex) const;
 	const FLine& MeasureLine(int32 LineIndex) const;
 	void MeasureLongestLine() const;
 	void CountRows() const;

@@ -194,8 +194,8 @@ bool STextBlock::NeedsLayout() const
 	const FOverrides& Set = GetOverrides();
 	const FString& String = Text.Get().ToString();
 	int32 Index;
-	return Set.AutoWrapText.Value.Get() || Set.WrapTextAt.Value.Get() > 0.0f || String.FindChar(TEXT('\n'), Index) ||
-		String.FindChar(TEXT('\r'), Index);
+	return Set.AutoWrapText.Value.Get() || Set.WrapTextAt.Value.Get() > 0.0f || String.Len() > FTextRows::MaxLineLength ||
+		String.FindChar(TEXT('\n'), Index) || String.FindChar(TEXT('\r'), Index);
 }
 
 FVector2D STextBlock::GetSpaceAroundText() const

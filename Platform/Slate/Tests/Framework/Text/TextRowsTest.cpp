@@ -1,11 +1,55 @@
 #include "Framework/Text/TextRows.h"
 
+#include "LogCapture.h"
 #include "MonospaceMeasure.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
+/** Counts the characters that are measured. */
+class FCountingMeasure final : public ITextMeasure
+{
+public:
+	explicit FCountingMeasure(int32& InCount)
+		: Count(InCount)
+	{
+	}
+
+	virtual float GetLineHeight() const override { return Inner.GetLineHeight(); }
+
+	virtual float GetWidth(const FString& Row, int32 NumCharacters) const override
+	{
+		Count += Row.Len();
+		return Inner.GetWidth(Row, NumCharacters);
+	}
+
+	virtual int32 GetNumFitting(const FString& Row, float Width) const override
+	{
+		Count += Row.Len();
+		return Inner.GetNumFitting(Row, Width);
+	}
+
+	virtual int32 GetNearestIndex(const FString& Row, float Distance) const override
+	{
+		return Inner.GetNearestIndex(Row, Distance);
+	}
+
+private:
+	FMonospaceMeasure Inner;
+	int32& Count;
+};
+
+FString MakeWords(int32 Length)
+{
+	FString Text;
+	while (Text.Len() < Length)
+	{
+		Text += TEXT("some words ");
+	}
+	return Text.Left(Length);
+}
+
 struct FTextRowsTest : testing::Test
 {
 	void SetText(const FString& Text, float WrapWidth = 0.0f)
@@ -16,6 +60,11 @@ struct FTextRowsTest : testing::Test
 		Rows.SetMeasure(MakeUnique<FMonospaceMeasure>());
 		Rows.SetFormat(Format);
 		Rows.OnReset();
+	}
+
+	void Replace(int32 Begin, int32 End, const TCHAR* Text)
+	{
+		Rows.OnReplaced(Document.Replace(FTextSelection(FTextLocation(0, Begin), FTextLocation(0, End)), Text));
 	}
 
 	FTextDocument Document{true};
@@ -135,4 +184,86 @@ TEST_F(FTextRowsTest, EstimatedRowsOfALongTextTurnExactWhereTheyAreLookedAt)
 	const FTextRow Last = Rows.GetRow(Rows.NumRows() - 1);
 	EXPECT_EQ(Last.LineIndex, 4000);
 	EXPECT_EQ(Last.Top + 20.0f, Height);
+}
+
+TEST_F(FTextRowsTest, AKeyInAWrappedParagraphMeasuresOnlyTheRowsAroundIt)
+{
+	SetText(MakeWords(100000), 400.0f);
+	int32 Count = 0;
+	Rows.SetMeasure(MakeUnique<FCountingMeasure>(Count));
+	const FVector2D Size = Rows.GetSize();
+	EXPECT_GT(Count, 100000);
+
+	Count = 0;
+	for (const int32 Place : {0, 50000, 100000})
+	{
+		Replace(Place, Place, TEXT("x"));
+		EXPECT_NEAR(Rows.GetSize().Y, Size.Y, 20.0);
+	}
+	EXPECT_LT(Count, 3 * 2000);
+
+	FTextRows Fresh(Document);
+	Fresh.SetMeasure(MakeUnique<FMonospaceMeasure>());
+	FTextRowFormat Format;
+	Format.WrapWidth = 400.0f;
+	Fresh.SetFormat(Format);
+	EXPECT_EQ(Rows.GetSize(), Fresh.GetSize());
+}
+
+TEST_F(FTextRowsTest, SeveralChangesBetweenTwoLooksAddUp)
+{
+	SetText(MakeWords(5000), 400.0f);
+	Rows.NumRows();
+	Replace(2000, 2000, TEXT("new words and more of them, to shift all behind by a row or two "));
+	Replace(1000, 1500, TEXT(""));
+	Replace(3000, 3010, TEXT("z"));
+	const int32 NumRows = Rows.NumRows();
+
+	FTextRows Fresh(Document);
+	Fresh.SetMeasure(MakeUnique<FMonospaceMeasure>());
+	FTextRowFormat Format;
+	Format.WrapWidth = 400.0f;
+	Fresh.SetFormat(Format);
+	ASSERT_EQ(NumRows, Fresh.NumRows());
+	for (int32 Row = 0; Row < NumRows; ++Row)
+	{
+		EXPECT_TRUE(Rows.GetRow(Row).Range == Fresh.GetRow(Row).Range) << Row;
+	}
+	EXPECT_EQ(Rows.GetSize(), Fresh.GetSize());
+}
+
+TEST_F(FTextRowsTest, OfALineThatIsTooLongTheFirstPartShowsAndTheLogSaysSoOnce)
+{
+	const FLogCapture Log(TEXT("LogSlateText"));
+	const int32 Length = FTextRows::MaxLineLength + 100;
+	SetText(MakeWords(Length));
+	EXPECT_EQ(Rows.GetSize().X, 10.0 * FTextRows::MaxLineLength);
+	EXPECT_EQ(Rows.GetRow(0).Text.Len(), FTextRows::MaxLineLength);
+	EXPECT_EQ(Rows.GetCaretPosition(FTextLocation(0, Length)).X, 10.0 * FTextRows::MaxLineLength);
+	EXPECT_EQ(Document.GetText().Len(), Length);
+
+	Replace(Length, Length, TEXT("x"));
+	EXPECT_EQ(Rows.GetSize().X, 10.0 * FTextRows::MaxLineLength);
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({TEXT("A line of 1048676 characters is too long to be shown whole; the first 1048576 are shown.")}));
+
+	Replace(0, 200, TEXT(""));
+	EXPECT_EQ(Rows.GetSize().X, 10.0 * (Length - 199));
+	EXPECT_EQ(Log.Warnings().Num(), 1);
+}
+
+TEST_F(FTextRowsTest, ALineThatIsTooLongIsWrappedUpToTheLimit)
+{
+	const FLogCapture Log(TEXT("LogSlateText"));
+	SetText(MakeWords(FTextRows::MaxLineLength + 5000), 1000.0f);
+	Rows.GetSize();
+	const FTextRow Last = Rows.GetRow(Rows.NumRows() - 1);
+	EXPECT_EQ(Last.Range.BeginIndex + Last.Text.Len(), FTextRows::MaxLineLength);
+	EXPECT_EQ(Log.Warnings().Num(), 1);
+
+	// Shorter by more than was cut off: the rows go to the real end now.
+	Replace(100, 6100, TEXT(""));
+	Rows.GetSize();
+	const FTextRow Real = Rows.GetRow(Rows.NumRows() - 1);
+	EXPECT_EQ(Real.Range.BeginIndex + Real.Text.Len(), Document.GetLine(0).Len());
 }

@@ -231,3 +231,29 @@ TEST_F(FMultiLineEditableTextTest, OfALongTextOnlyWhatIsInViewIsPainted)
 	EXPECT_LT(Window->CountPaintedElements(), 12);
 	EXPECT_LT(FSlateApplication::Get().GetRenderer()->GetFontCache()->GetNumCachedTexts(), 5000);
 }
+
+TEST_F(FMultiLineEditableTextTest, AKeyInALongLineShapesOnlyWhatIsAroundIt)
+{
+	FString Line;
+	for (int32 Word = 0; Word < 10000; ++Word)
+	{
+		Line += FString(TEXT("abcdefghijklmnop")).Mid(Word % 5, 1 + Word * 7919 % 97 % 11) + TEXT(" ");
+	}
+	const TSharedRef<FSlateFontCache> Cache = FSlateApplication::Get().GetRenderer()->GetFontCache();
+	for (const bool bWraps : {false, true})
+	{
+		Show(SMultiLineEditableText::FArguments().AutoWrapText(bWraps).Text(FText::FromString(Line)));
+		Focus();
+		FString Expected = Line;
+		for (const int32 Place : {Line.Len() / 2, 0, Line.Len()})
+		{
+			Field->GoTo(FTextLocation(0, Place));
+			Window->Frame();
+			const uint64 Before = Cache->GetNumShapedCharacters();
+			Window->TypeText(TEXT("x"));
+			EXPECT_LT(Cache->GetNumShapedCharacters() - Before, 4000u) << bWraps << " at " << Place;
+			Expected = Expected.Left(Place) + TEXT("x") + Expected.Mid(Place);
+		}
+		EXPECT_TRUE(Shown().Equals(Expected));
+	}
+}

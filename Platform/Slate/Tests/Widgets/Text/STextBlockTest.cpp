@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "Fonts/FontMeasure.h"
+#include "Framework/Text/TextRows.h"
+#include "LogCapture.h"
 #include "Rendering/SlateRenderer.h"
 #include "SlateTestWindow.h"
 #include "Widgets/Layout/SBox.h"
@@ -223,4 +225,21 @@ TEST_F(FTextBlockTest, TheLineHeightPercentageSpreadsLines)
 {
 	Show(STextBlock::FArguments().Text(Text(TEXT("a\nb"))).LineHeightPercentage(2.0f));
 	EXPECT_EQ(Size().Y, 4.0 * LineHeight());
+}
+
+TEST_F(FTextBlockTest, OfALineThatIsTooLongTheBeginningShowsAndTheLogSaysSo)
+{
+	const FLogCapture Log(TEXT("LogSlateText"));
+	FString Line;
+	while (Line.Len() < FTextRows::MaxLineLength)
+	{
+		Line += TEXT("0123456789");
+	}
+	Show(STextBlock::FArguments().Text(FText::FromString(Line + TEXT("more"))));
+	Window->Frame();
+
+	EXPECT_EQ(Size().X, Measure(*Line.Left(FTextRows::MaxLineLength), Label->GetFont()).X);
+	EXPECT_TRUE(Label->GetText().ToString().Equals(Line + TEXT("more")));
+	EXPECT_EQ(Log.Warnings(),
+		TArray<FString>({TEXT("A line of 1048584 characters is too long to be shown whole; the first 1048576 are shown.")}));
 }
