@@ -1,4 +1,5 @@
 #include "BenchmarkWindow.h"
+#include "Fonts/FontCache.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Rendering/SlateRenderer.h"
 #include "Widgets/Input/SEditableTextBox.h"
@@ -26,6 +27,28 @@ enum ELetters
 	/** One letter, all else its marks. */
 	OneAccent,
 };
+
+/** From First to Last characters, each time twice as many. */
+template <int32 First, int32 Last>
+void DoubleFrom(benchmark::internal::Benchmark* Work)
+{
+	for (int32 Length = First; Length <= Last; Length *= 2)
+	{
+		Work->Arg(Length);
+	}
+	Work->Unit(benchmark::kMillisecond)->Complexity();
+}
+
+/** From a thousand characters on, each time ten times as many. */
+template <int32 Last>
+void UpTo(benchmark::internal::Benchmark* Work)
+{
+	for (int32 Length = 1000; Length <= Last; Length *= 10)
+	{
+		Work->Arg(Length);
+	}
+	Work->Iterations(20)->Unit(benchmark::kMillisecond)->Complexity();
+}
 
 FString MakeText(ELetters Letters, int32 Length, uint32 Seed)
 {
@@ -57,10 +80,15 @@ FString MakeText(ELetters Letters, int32 Length, uint32 Seed)
 	return Text;
 }
 
-/** A paragraph of n characters in a window, wrapped, from construction to the end of the first frame. */
+uint64 GetNumShapedCharacters()
+{
+	return GetApplication().GetRenderer()->GetFontCache()->GetNumShapedCharacters();
+}
+
+/** A paragraph of n characters in a window, wrapped, from construction to the end of the first frame. "shaped": for each character. */
 void WrapParagraph(benchmark::State& State, ELetters Letters, ETextWrappingPolicy Policy)
 {
-	GetApplication();
+	const uint64 ShapedBefore = GetNumShapedCharacters();
 	uint32 Seed = 0;
 	for (auto _ : State)
 	{
@@ -71,33 +99,17 @@ void WrapParagraph(benchmark::State& State, ELetters Letters, ETextWrappingPolic
 		PassFrame();
 		CloseWindow(Window);
 	}
+	State.counters["shaped"] = double(GetNumShapedCharacters() - ShapedBefore) / double(State.range(0)) / State.iterations();
 	State.SetComplexityN(State.range(0));
 }
-BENCHMARK_CAPTURE(WrapParagraph, Words, Words, ETextWrappingPolicy::DefaultWrapping)
-	->RangeMultiplier(2)
-	->Range(32 << 10, 512 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(WrapParagraph, OneWord, OneWord, ETextWrappingPolicy::DefaultWrapping)
-	->RangeMultiplier(2)
-	->Range(32 << 10, 512 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+BENCHMARK_CAPTURE(WrapParagraph, Words, Words, ETextWrappingPolicy::DefaultWrapping)->Apply(DoubleFrom<32 << 10, 512 << 10>);
+BENCHMARK_CAPTURE(WrapParagraph, OneWord, OneWord, ETextWrappingPolicy::DefaultWrapping)->Apply(DoubleFrom<32 << 10, 512 << 10>);
 BENCHMARK_CAPTURE(WrapParagraph, WordsPerCharacter, Words, ETextWrappingPolicy::AllowPerCharacterWrapping)
-	->RangeMultiplier(2)
-	->Range(32 << 10, 512 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+	->Apply(DoubleFrom<32 << 10, 512 << 10>);
 BENCHMARK_CAPTURE(WrapParagraph, OneWordPerCharacter, OneWord, ETextWrappingPolicy::AllowPerCharacterWrapping)
-	->RangeMultiplier(2)
-	->Range(32 << 10, 512 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+	->Apply(DoubleFrom<32 << 10, 512 << 10>);
 BENCHMARK_CAPTURE(WrapParagraph, Accents, Accents, ETextWrappingPolicy::AllowPerCharacterWrapping)
-	->RangeMultiplier(2)
-	->Range(8 << 10, 64 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+	->Apply(DoubleFrom<8 << 10, 64 << 10>);
 
 /** A line of n characters that is not wrapped, from construction to the end of the first frame. */
 void ShowLine(benchmark::State& State, ELetters Letters)
@@ -115,26 +127,10 @@ void ShowLine(benchmark::State& State, ELetters Letters)
 	}
 	State.SetComplexityN(State.range(0));
 }
-BENCHMARK_CAPTURE(ShowLine, Words, Words)
-	->RangeMultiplier(2)
-	->Range(256 << 10, 1 << 20)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(ShowLine, Hebrew, Hebrew)
-	->RangeMultiplier(2)
-	->Range(32 << 10, 128 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(ShowLine, Accents, Accents)
-	->RangeMultiplier(2)
-	->Range(5 << 10, 20 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(ShowLine, OneAccent, OneAccent)
-	->RangeMultiplier(2)
-	->Range(5 << 10, 20 << 10)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+BENCHMARK_CAPTURE(ShowLine, Words, Words)->Apply(DoubleFrom<256 << 10, 1 << 20>);
+BENCHMARK_CAPTURE(ShowLine, Hebrew, Hebrew)->Apply(DoubleFrom<32 << 10, 128 << 10>);
+BENCHMARK_CAPTURE(ShowLine, Accents, Accents)->Apply(DoubleFrom<5 << 10, 20 << 10>);
+BENCHMARK_CAPTURE(ShowLine, OneAccent, OneAccent)->Apply(DoubleFrom<5 << 10, 20 << 10>);
 
 void TakeFocus(const TSharedRef<SWindow>& Window)
 {
@@ -142,16 +138,6 @@ void TakeFocus(const TSharedRef<SWindow>& Window)
 	const FVector2D Place = Window->GetPositionInScreen() + FVector2D(200.0, 10.0);
 	Application.OnMouseDown(Window->GetNativeWindow(), EMouseButtons::Left, Place);
 	Application.OnMouseUp(EMouseButtons::Left, Place);
-}
-
-TSharedRef<SEditableTextBox> MakeField(const FString& Text, const SEditableTextBox*)
-{
-	return SNew(SEditableTextBox).Text(FText::FromString(Text));
-}
-
-TSharedRef<SMultiLineEditableTextBox> MakeField(const FString& Text, const SMultiLineEditableTextBox*)
-{
-	return SNew(SMultiLineEditableTextBox).Text(FText::FromString(Text));
 }
 
 void PressKey(const FKey& Key)
@@ -165,11 +151,8 @@ void PressKey(const FKey& Key)
 }
 
 /** A key near the end of one line of n characters, and the frame that shows it. */
-template <typename FieldType>
-void TypeIntoLongLine(benchmark::State& State, ELetters Letters)
+void TypeIntoLongLine(benchmark::State& State, const TSharedRef<SWidget>& Field)
 {
-	GetApplication();
-	const TSharedRef<FieldType> Field = MakeField(MakeText(Letters, State.range(0), 1), static_cast<const FieldType*>(nullptr));
 	const TSharedRef<SWindow> Window = ShowWindow(Field);
 	PassFrame();
 	TakeFocus(Window);
@@ -188,39 +171,34 @@ void TypeIntoLongLine(benchmark::State& State, ELetters Letters)
 	State.SetComplexityN(State.range(0));
 }
 
+FText MakeLine(const benchmark::State& State, ELetters Letters)
+{
+	GetApplication();
+	return FText::FromString(MakeText(Letters, State.range(0), 1));
+}
+
 void TypeIntoField(benchmark::State& State, ELetters Letters)
 {
-	TypeIntoLongLine<SEditableTextBox>(State, Letters);
+	const FText Line = MakeLine(State, Letters);
+	TypeIntoLongLine(State, SNew(SEditableTextBox).Text(Line));
 }
 
 void TypeIntoMultiLineField(benchmark::State& State, ELetters Letters)
 {
-	TypeIntoLongLine<SMultiLineEditableTextBox>(State, Letters);
+	const FText Line = MakeLine(State, Letters);
+	TypeIntoLongLine(State, SNew(SMultiLineEditableTextBox).Text(Line));
 }
-BENCHMARK_CAPTURE(TypeIntoField, Words, Words)
-	->RangeMultiplier(10)
-	->Range(1000, 1000000)
-	->Iterations(5)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(TypeIntoMultiLineField, Words, Words)
-	->RangeMultiplier(10)
-	->Range(1000, 1000000)
-	->Iterations(5)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(TypeIntoField, OneWord, OneWord)
-	->RangeMultiplier(10)
-	->Range(1000, 1000000)
-	->Iterations(5)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
-BENCHMARK_CAPTURE(TypeIntoField, Hebrew, Hebrew)
-	->RangeMultiplier(10)
-	->Range(1000, 100000)
-	->Iterations(5)
-	->Unit(benchmark::kMillisecond)
-	->Complexity();
+
+void TypeIntoWrappedField(benchmark::State& State, ELetters Letters)
+{
+	const FText Line = MakeLine(State, Letters);
+	TypeIntoLongLine(State, SNew(SMultiLineEditableTextBox).Text(Line).AutoWrapText(true));
+}
+BENCHMARK_CAPTURE(TypeIntoField, Words, Words)->Apply(UpTo<1000000>);
+BENCHMARK_CAPTURE(TypeIntoMultiLineField, Words, Words)->Apply(UpTo<1000000>);
+BENCHMARK_CAPTURE(TypeIntoField, OneWord, OneWord)->Apply(UpTo<1000000>);
+BENCHMARK_CAPTURE(TypeIntoField, Hebrew, Hebrew)->Apply(UpTo<1000000>);
+BENCHMARK_CAPTURE(TypeIntoWrappedField, Words, Words)->Apply(UpTo<1000000>);
 
 /** n keys into an empty field that has one line. */
 void TypeKeysIntoOneLine(benchmark::State& State)
@@ -230,28 +208,26 @@ void TypeKeysIntoOneLine(benchmark::State& State)
 	for (auto _ : State)
 	{
 		State.PauseTiming();
-		const TSharedRef<SMultiLineEditableTextBox> Field =
-			MakeField(FString(), static_cast<const SMultiLineEditableTextBox*>(nullptr));
-		const TSharedRef<SWindow> Window = ShowWindow(Field);
+		const TSharedRef<SWindow> Window = ShowWindow(SNew(SMultiLineEditableTextBox));
 		PassFrame();
 		TakeFocus(Window);
 		const FString Text = MakeText(Words, State.range(0), 1);
-		const size_t Before = mallinfo2().uordblks;
+		const double Before = double(mallinfo2().uordblks);
 		State.ResumeTiming();
 		for (int32 Index = 0; Index < Text.Len(); ++Index)
 		{
 			FSlateApplication::Get().OnKeyChar(Text[Index], false);
 			PassFrame();
 		}
-		Bytes = double(mallinfo2().uordblks - Before);
+		Bytes = double(mallinfo2().uordblks) - Before;
 		State.PauseTiming();
 		CloseWindow(Window);
 		State.ResumeTiming();
 	}
 	State.counters["MB kept"] = Bytes / 1e6;
-	State.counters["ms a key"] = benchmark::Counter(
-		double(State.range(0)) / 1e3, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+	State.counters["a key"] =
+		benchmark::Counter(double(State.range(0)), benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 	State.SetComplexityN(State.range(0));
 }
-BENCHMARK(TypeKeysIntoOneLine)->RangeMultiplier(2)->Range(2000, 8000)->Iterations(1)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(TypeKeysIntoOneLine)->Arg(2000)->Arg(4000)->Arg(8000)->Iterations(1)->Unit(benchmark::kMillisecond)->Complexity();
 }
