@@ -13,7 +13,7 @@
 
 /**
  * How the cost of long text grows: each work runs at n, 2n, 4n ... and the last lines state the growth that fits best. Every
- * round has a text of its own, so that nothing which was shaped before helps.
+ * text is a new one, so that nothing which was shaped before helps.
  */
 namespace
 {
@@ -50,8 +50,10 @@ void UpTo(benchmark::internal::Benchmark* Work)
 	Work->Iterations(20)->Unit(benchmark::kMillisecond)->Complexity();
 }
 
-FString MakeText(ELetters Letters, int32 Length, uint32 Seed)
+FString MakeText(ELetters Letters, int32 Length)
 {
+	static uint32 Seed = 0;
+	++Seed;
 	FString Text;
 	Text.Reserve(Length);
 	uint32 State = Seed * 2654435761u + 12345u;
@@ -89,11 +91,10 @@ uint64 GetNumShapedCharacters()
 void WrapParagraph(benchmark::State& State, ELetters Letters, ETextWrappingPolicy Policy)
 {
 	const uint64 ShapedBefore = GetNumShapedCharacters();
-	uint32 Seed = 0;
 	for (auto _ : State)
 	{
 		State.PauseTiming();
-		const FText Text = FText::FromString(MakeText(Letters, State.range(0), ++Seed));
+		const FText Text = FText::FromString(MakeText(Letters, State.range(0)));
 		State.ResumeTiming();
 		const TSharedRef<SWindow> Window = ShowWindow(SNew(STextBlock).AutoWrapText(true).WrappingPolicy(Policy).Text(Text));
 		PassFrame();
@@ -115,11 +116,10 @@ BENCHMARK_CAPTURE(WrapParagraph, Accents, Accents, ETextWrappingPolicy::AllowPer
 void ShowLine(benchmark::State& State, ELetters Letters)
 {
 	GetApplication();
-	uint32 Seed = 0;
 	for (auto _ : State)
 	{
 		State.PauseTiming();
-		const FText Text = FText::FromString(MakeText(Letters, State.range(0), ++Seed));
+		const FText Text = FText::FromString(MakeText(Letters, State.range(0)));
 		State.ResumeTiming();
 		const TSharedRef<SWindow> Window = ShowWindow(SNew(STextBlock).Text(Text));
 		PassFrame();
@@ -174,7 +174,7 @@ void TypeIntoLongLine(benchmark::State& State, const TSharedRef<SWidget>& Field)
 FText MakeLine(const benchmark::State& State, ELetters Letters)
 {
 	GetApplication();
-	return FText::FromString(MakeText(Letters, State.range(0), 1));
+	return FText::FromString(MakeText(Letters, State.range(0)));
 }
 
 void TypeIntoField(benchmark::State& State, ELetters Letters)
@@ -211,7 +211,7 @@ void TypeKeysIntoOneLine(benchmark::State& State)
 		const TSharedRef<SWindow> Window = ShowWindow(SNew(SMultiLineEditableTextBox));
 		PassFrame();
 		TakeFocus(Window);
-		const FString Text = MakeText(Words, State.range(0), 1);
+		const FString Text = MakeText(Words, State.range(0));
 		const double Before = double(mallinfo2().uordblks);
 		State.ResumeTiming();
 		for (int32 Index = 0; Index < Text.Len(); ++Index)
