@@ -62,6 +62,10 @@ struct FSlateLongTexts::FTask
 
 	int32 FindEndOfLevel(int32 First, int32 End) const
 	{
+		if (Levels.Num() == 0)
+		{
+			return End;
+		}
 		int32 Index = First + 1;
 		while (Index < End && GetLevel(Index) == GetLevel(First))
 		{
@@ -72,7 +76,7 @@ struct FSlateLongTexts::FTask
 
 	bool HasLevel(int32 First, int32 End, uint8 Level) const
 	{
-		return GetLevel(First) == Level && (Levels.Num() == 0 || FindEndOfLevel(First, End) == End);
+		return GetLevel(First) == Level && FindEndOfLevel(First, End) == End;
 	}
 };
 
@@ -148,10 +152,13 @@ void FSlateLongTexts::ShapeBetween(FTask& Task, int32 First, int32 End, TArray<F
 	while (First < End)
 	{
 		const uint8 Level = Task.GetLevel(First);
-		const int32 EndOfLevel = Task.Levels.Num() > 0 ? Task.FindEndOfLevel(First, End) : End;
-		const int32 Cut = FindCut(Task.Text, First, EndOfLevel);
-		Pieces.Add({Shaper.ShapePiece(Task.Text, First, Cut - First, Level, Task.Font), First, Level});
-		First = Cut;
+		const int32 EndOfLevel = Task.FindEndOfLevel(First, End);
+		while (First < EndOfLevel)
+		{
+			const int32 Cut = FindCut(Task.Text, First, EndOfLevel);
+			Pieces.Add({Shaper.ShapePiece(Task.Text, First, Cut - First, Level, Task.Font), First, Level});
+			First = Cut;
+		}
 	}
 }
 
