@@ -51,6 +51,12 @@ bool FTextRowFormat::operator==(const FTextRowFormat& Other) const
 		LineHeightPercentage == Other.LineHeightPercentage && bPassword == Other.bPassword;
 }
 
+const TArray<int32>& FTextRows::FLine::GetRowBegins() const
+{
+	static const TArray<int32> None;
+	return Wrapped ? Wrapped->Wrap.RowBegins : None;
+}
+
 FTextRows::FTextRows(const FTextDocument& InDocument)
 	: Document(InDocument)
 {
@@ -91,8 +97,12 @@ void FTextRows::OnReplaced(const FTextChange& Change)
 	{
 		FLine& Line = Lines[Change.FirstLine];
 		Line.bMeasured = false;
-		Line.Wrap.SameAtFront = FMath::Min(Line.Wrap.SameAtFront, Change.Begin.GetOffset());
-		Line.Wrap.SameAtEnd = FMath::Min(Line.Wrap.SameAtEnd, Document.GetLine(Change.FirstLine).Len() - Change.End.GetOffset());
+		if (Line.Wrapped)
+		{
+			FTextWrapBefore& Wrap = Line.Wrapped->Wrap;
+			Wrap.SameAtFront = FMath::Min(Wrap.SameAtFront, Change.Begin.GetOffset());
+			Wrap.SameAtEnd = FMath::Min(Wrap.SameAtEnd, Document.GetLine(Change.FirstLine).Len() - Change.End.GetOffset());
+		}
 		return;
 	}
 	Lines.RemoveAt(Change.FirstLine, Change.NumRemovedLines);
@@ -151,12 +161,18 @@ const FTextRows::FLine& FTextRows::MeasureLine(int32 LineIndex) const
 	TellIfTooLong(LineIndex);
 	const int32 RowsBefore = FirstRows.Num() == 0 ? 0 : FirstRows[LineIndex + 1] - FirstRows[LineIndex];
 	const FString Shown = GetShownText(LineIndex, FTextRange(0, GetShownLength(LineIndex)));
+	FWrappedRows Before;
+	if (Line.Wrapped)
+	{
+		Before = MoveTemp(*Line.Wrapped);
+		Line.Wrapped.Reset();
+	}
 	// A line that is too long is cut at another place each time.
-	Line.Wrap.SameAtEnd = Line.bToldTooLong ? 0 : Line.Wrap.SameAtEnd;
+	Before.Wrap.SameAtEnd = Line.bToldTooLong ? 0 : Before.Wrap.SameAtEnd;
 	int32 SameAtFront = 0;
 	int32 SameAtEnd = 0;
 	TArray<int32> RowBegins =
-		WrapChangedLine(Shown, Format.WrapWidth, Format.WrappingPolicy, *Measure, Line.Wrap, SameAtFront, SameAtEnd);
+		WrapChangedLine(Shown, Format.WrapWidth, Format.WrappingPolicy, *Measure, Before.Wrap, SameAtFront, SameAtEnd);
 
 	const int32 NumRows = RowBegins.Num() + 1;
 	TArray<float> RowWidths;
@@ -166,7 +182,7 @@ const FTextRows::FLine& FTextRows::MeasureLine(int32 LineIndex) const
 		const int32 FromEnd = NumRows - RowIndex;
 		if (RowIndex < SameAtFront || FromEnd <= SameAtEnd)
 		{
-			RowWidths.Add(Line.RowWidths[RowIndex < SameAtFront ? RowIndex : Line.RowWidths.Num() - FromEnd]);
+			RowWidths.Add(Before.Widths[RowIndex < SameAtFront ? RowIndex : Before.Widths.Num() - FromEnd]);
 			continue;
 		}
 		const int32 Begin = RowIndex == 0 ? 0 : RowBegins[RowIndex - 1];
@@ -175,11 +191,12 @@ const FTextRows::FLine& FTextRows::MeasureLine(int32 LineIndex) const
 		RowWidths.Add(Measure->GetWidth(Row, bWrapped ? GetLenWithoutBlanks(Row) : Row.Len()));
 	}
 	Line.Width = *std::max_element(RowWidths.begin(), RowWidths.end());
-	Line.RowWidths = NumRows > 1 ? MoveTemp(RowWidths) : TArray<float>();
-	Line.Wrap.RowBegins = MoveTemp(RowBegins);
-	Line.Wrap.Length = Shown.Len();
-	Line.Wrap.SameAtFront = Shown.Len();
-	Line.Wrap.SameAtEnd = Line.bToldTooLong ? 0 : Shown.Len();
+	if (NumRows > 1)
+	{
+		Line.Wrapped = MakeUnique<FWrappedRows>();
+		Line.Wrapped->Widths = MoveTemp(RowWidths);
+		Line.Wrapped->Wrap = {MoveTemp(RowBegins), Shown.Len(), Shown.Len(), Line.bToldTooLong ? 0 : Shown.Len()};
+	}
 	Line.bMeasured = true;
 	if (RowsBefore != NumRows)
 	{
@@ -231,7 +248,7 @@ void FTextRows::CountRows() const
 	for (int32 LineIndex = 0; LineIndex < Lines.Num(); ++LineIndex)
 	{
 		FirstRows.Add(Count);
-		Count += Lines[LineIndex].bMeasured ? Lines[LineIndex].Wrap.RowBegins.Num() + 1 : EstimateRows(LineIndex);
+		Count += Lines[LineIndex].bMeasured ? Lines[LineIndex].GetRowBegins().Num() + 1 : EstimateRows(LineIndex);
 	}
 	FirstRows.Add(Count);
 }
@@ -290,7 +307,7 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 		LineIndex = GetLineOfRow(RowIndex);
 	}
 
-	const TArray<int32>& RowBegins = Lines[LineIndex].Wrap.RowBegins;
+	const TArray<int32>& RowBegins = Lines[LineIndex].GetRowBegins();
 	const int32 RowInLine = FMath::Clamp(RowIndex - FirstRows[LineIndex], 0, RowBegins.Num());
 
 	FTextRow Row;
@@ -308,7 +325,7 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 int32 FTextRows::GetRowIndex(const FTextCaret& Caret) const
 {
 	const int32 LineIndex = Caret.Location.GetLineIndex();
-	const TArray<int32>& RowBegins = MeasureLine(LineIndex).Wrap.RowBegins;
+	const TArray<int32>& RowBegins = MeasureLine(LineIndex).GetRowBegins();
 	const int32 Offset = Caret.Location.GetOffset();
 	const int32 RowInLine = CountUpTo(RowBegins, Caret.bAtRowEnd ? Offset - 1 : Offset);
 	CountRows();

@@ -112,12 +112,19 @@ public:
 	FTextCaret GetCaretInRow(int32 RowIndex, float Distance) const;
 
 private:
+	/** Of a line of several rows, as it was measured last. */
+	struct FWrappedRows
+	{
+		FTextWrapBefore Wrap;
+		TArray<float> Widths;
+	};
+
 	struct FLine
 	{
-		/** Where the rows after the first begin, when the line was measured last, and how much of it changed since. */
-		FTextWrapBefore Wrap;
-		/** Only of a line of several rows. */
-		TArray<float> RowWidths;
+		/** Where the rows after the first begin. */
+		const TArray<int32>& GetRowBegins() const;
+
+		TUniquePtr<FWrappedRows> Wrapped;
 		float Width = 0.0f;
 		bool bMeasured = false;
 		bool bToldTooLong = false;
