@@ -1,5 +1,7 @@
 #include "Framework/Text/TextRows.h"
 
+#include "Framework/Text/TextDirection.h"
+
 #include "Framework/Text/TextWrap.h"
 #include "Math/UnrealMathUtility.h"
 
@@ -283,10 +285,10 @@ int32 FTextRows::GetLineOfRow(int32 RowIndex) const
 	return FMath::Clamp(CountUpTo(FirstRows, RowIndex) - 1, 0, Lines.Num() - 1);
 }
 
-float FTextRows::GetRowLeft(float RowWidth) const
+float FTextRows::GetRowLeft(float RowWidth, const FString& Paragraph) const
 {
 	const float Free = FMath::Max(ViewWidth - RowWidth, 0.0f);
-	switch (Format.Justification)
+	switch (TextDirection::OnScreen(Format.Justification, Paragraph))
 	{
 		case ETextJustify::Center:
 			return Free * 0.5f;
@@ -317,7 +319,7 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 	Row.Range.EndIndex = Row.bWrapped ? RowBegins[RowInLine] : Document.GetLine(LineIndex).Len();
 	Row.Text = GetShownText(LineIndex, Row.Range);
 	Row.Width = Measure->GetWidth(Row.Text, Row.bWrapped ? GetLenWithoutBlanks(Row.Text) : Row.Text.Len());
-	Row.Left = GetRowLeft(Row.Width);
+	Row.Left = GetRowLeft(Row.Width, Document.GetLine(LineIndex));
 	Row.Top = (FirstRows[LineIndex] + RowInLine) * GetRowHeight();
 	return Row;
 }

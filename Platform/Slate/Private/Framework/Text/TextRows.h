@@ -98,8 +98,8 @@ public:
 	int32 GetRowIndex(const FTextCaret& Caret) const;
 	int32 GetRowIndexAtHeight(float Height) const;
 
-	/** Where a row of this width begins, by the justification. */
-	float GetRowLeft(float RowWidth) const;
+	/** Where a row of this width, of that paragraph, begins by the justification. */
+	float GetRowLeft(float RowWidth, const FString& Paragraph) const;
 
 	/** The upper end of the caret. */
 	FVector2D GetCaretPosition(const FTextCaret& Caret) const;

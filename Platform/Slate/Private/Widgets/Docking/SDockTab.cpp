@@ -47,6 +47,7 @@ void SDockTab::Construct(const FArguments& InArgs)
 			[
 				SAssignNew(LabelText, STextBlock)
 				.TextStyle(&Style->TabTextStyle)
+				.OverflowPolicy(ETextOverflowPolicy::Ellipsis)
 			]
 			+ SHorizontalBox::Slot()
 			.AutoWidth()

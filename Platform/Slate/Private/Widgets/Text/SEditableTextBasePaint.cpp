@@ -100,7 +100,7 @@ int32 SEditableTextBase::OnPaint(const FPaintArgs& Args, const FGeometry& Allott
 		const FLinearColor HintColor = FCoreStyle::Get().GetSlateColor("DimForeground").GetColor(InWidgetStyle);
 		const FString& Hint = HintText.Get().ToString();
 		const float HintWidth = MeasureSingleLine(Hint, GetFont(), AllottedGeometry.Scale).X;
-		Painter.PaintText(TextLayer, Hint, FVector2D(Rows.GetRowLeft(HintWidth), 0.0), HintColor);
+		Painter.PaintText(TextLayer, Hint, FVector2D(Rows.GetRowLeft(HintWidth, Hint), 0.0), HintColor);
 	}
 
 	const FTextSelection Selection = Editor->GetSelection();

@@ -2,6 +2,7 @@
 
 #include "Framework/Text/FontTextMeasure.h"
 #include "Framework/Text/TextBlockLayout.h"
+#include "Framework/Text/TextDirection.h"
 #include "Framework/Text/TextWrap.h"
 #include "Rendering/DrawElements.h"
 #include "Styling/WidgetStyle.h"
@@ -40,6 +41,7 @@ struct STextBlock::FOverrides
 	TLayout<FMargin> Margin;
 	TLayout<float> LineHeightPercentage{1.0f};
 	TPaint<ETextJustify::Type> Justification{ETextJustify::Left};
+	TPaint<ETextOverflowPolicy> OverflowPolicy{ETextOverflowPolicy::Clip};
 	TLayout<float> MinDesiredWidth{0.0f};
 };
 
@@ -93,6 +95,7 @@ void STextBlock::Construct(const FArguments& InArgs)
 	SetLineHeightPercentage(InArgs._LineHeightPercentage);
 	SetJustification(InArgs._Justification);
 	SetMinDesiredWidth(InArgs._MinDesiredWidth);
+	SetOverflowPolicy(InArgs._OverflowPolicy);
 }
 
 void STextBlock::SetText(TAttribute<FText> InText)
@@ -163,6 +166,13 @@ void STextBlock::SetJustification(TAttribute<ETextJustify::Type> InJustification
 void STextBlock::SetMinDesiredWidth(TAttribute<float> InMinDesiredWidth)
 {
 	SetOverride(&FOverrides::MinDesiredWidth, InMinDesiredWidth);
+}
+
+void STextBlock::SetOverflowPolicy(TOptional<ETextOverflowPolicy> InOverflowPolicy)
+{
+	SetOverride(&FOverrides::OverflowPolicy,
+		InOverflowPolicy.IsSet() ? TAttribute<ETextOverflowPolicy>(InOverflowPolicy.GetValue())
+								 : TAttribute<ETextOverflowPolicy>());
 }
 
 const FSlateFontInfo& STextBlock::GetFont() const
@@ -261,9 +271,37 @@ void STextBlock::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedC
 	}
 }
 
+FString STextBlock::ShortenToRoom(const FGeometry& Geometry) const
+{
+	const FString& Line = Text.Get().ToString();
+	const auto GetWidth = [&](const FString& Part)
+	{
+		return MeasureSingleLine(Part, GetFont(), Geometry.Scale).X;
+	};
+	const double Room = Geometry.GetLocalSize().X - GetSpaceAroundText().X;
+	if (GetWidth(Line) <= Room)
+	{
+		return Line;
+	}
+	const auto Shorten = [&Line](int32 Length)
+	{
+		// The halves of a character beyond the basic plane stay together.
+		const bool bSplits = Length > 0 && (Line[Length - 1] & 0xFC00) == 0xD800;
+		return Line.Left(bSplits ? Length - 1 : Length) + TEXT("\u2026");
+	};
+	int32 Fitting = 0;
+	int32 TooLong = Line.Len();
+	while (TooLong - Fitting > 1)
+	{
+		const int32 Middle = (Fitting + TooLong) / 2;
+		(GetWidth(Shorten(Middle)) <= Room ? Fitting : TooLong) = Middle;
+	}
+	return Shorten(Fitting);
+}
+
 float STextBlock::GetJustifiedLeft(const FString& Row, const FGeometry& Geometry) const
 {
-	const ETextJustify::Type Justification = GetOverrides().Justification.Value.Get();
+	const ETextJustify::Type Justification = TextDirection::OnScreen(GetOverrides().Justification.Value.Get(), Row);
 	if (Justification == ETextJustify::Left)
 	{
 		return 0.0f;
@@ -302,7 +340,9 @@ int32 STextBlock::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeome
 
 	if (!NeedsLayout())
 	{
-		const FString& String = Text.Get().ToString();
+		const bool bShortens = Set.OverflowPolicy.Value.Get() == ETextOverflowPolicy::Ellipsis;
+		const FString Shortened = bShortens ? ShortenToRoom(AllottedGeometry) : FString();
+		const FString& String = bShortens ? Shortened : Text.Get().ToString();
 		PaintRow(String, Origin + FVector2D(GetJustifiedLeft(String, AllottedGeometry), 0.0), AllottedGeometry, OutDrawElements,
 			LayerId, InWidgetStyle, bEnabled);
 		return LayerId;

@@ -21,6 +21,15 @@ enum class ETextWrappingPolicy : uint8
 	AllowPerCharacterWrapping,
 };
 
+/** What shows of a line that is longer than its room. */
+enum class ETextOverflowPolicy : uint8
+{
+	/** All of it, as far as nothing clips it. */
+	Clip = 0,
+	/** As much as fits, and an ellipsis. */
+	Ellipsis,
+};
+
 /** Places in a text to which a caret can be sent or a view scrolled. */
 enum class ETextLocation : uint8
 {

@@ -46,6 +46,9 @@ public:
 	SLATE_ATTRIBUTE(float, LineHeightPercentage)
 	SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
 	SLATE_ATTRIBUTE(float, MinDesiredWidth)
+
+	/** Counts for text of one line. */
+	SLATE_ARGUMENT(TOptional<ETextOverflowPolicy>, OverflowPolicy)
 	SLATE_END_ARGS()
 
 	STextBlock();
@@ -75,6 +78,7 @@ public:
 	void SetLineHeightPercentage(TAttribute<float> InLineHeightPercentage);
 	void SetJustification(TAttribute<ETextJustify::Type> InJustification);
 	void SetMinDesiredWidth(TAttribute<float> InMinDesiredWidth);
+	void SetOverflowPolicy(TOptional<ETextOverflowPolicy> InOverflowPolicy);
 
 	const FSlateFontInfo& GetFont() const;
 	const FSlateColor& GetColorAndOpacity() const;
@@ -103,6 +107,8 @@ private:
 	float GetWrapWidth(float Room) const;
 	const FTextRows& UpdateRows(float Scale, float AllottedWidth) const;
 
+	/** The one line of the text as far as it fits, with an ellipsis where it does not. */
+	FString ShortenToRoom(const FGeometry& Geometry) const;
 	float GetJustifiedLeft(const FString& Row, const FGeometry& Geometry) const;
 	void PaintRow(const FString& Row, const FVector2D& Position, const FGeometry& Geometry,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bEnabled) const;

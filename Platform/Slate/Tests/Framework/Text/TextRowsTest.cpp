@@ -127,6 +127,21 @@ TEST_F(FTextRowsTest, JustificationMovesRowsWithinTheView)
 	EXPECT_EQ(Rows.GetRow(1).Left, 30.0f);
 }
 
+TEST_F(FTextRowsTest, ParagraphFromRightToLeftBeginsAtTheRight)
+{
+	SetText(TEXT("abc\n\u05d0\u05d1\u05d2\n12 \u05d0"));
+	Rows.SetViewWidth(100.0f);
+	FTextRowFormat Format;
+	EXPECT_EQ(Rows.GetRow(0).Left, 0.0f);
+	EXPECT_EQ(Rows.GetRow(1).Left, 100.0f - Rows.GetRow(1).Width);
+	EXPECT_EQ(Rows.GetRow(2).Left, 100.0f - Rows.GetRow(2).Width);
+
+	Format.Justification = ETextJustify::Right;
+	Rows.SetFormat(Format);
+	EXPECT_EQ(Rows.GetRow(0).Left, 100.0f - Rows.GetRow(0).Width);
+	EXPECT_EQ(Rows.GetRow(1).Left, 0.0f);
+}
+
 TEST_F(FTextRowsTest, ThePercentageSpreadsRows)
 {
 	SetText(TEXT("a\nb"));

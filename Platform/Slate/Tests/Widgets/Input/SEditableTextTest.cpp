@@ -23,6 +23,8 @@ FText Text(const TCHAR* String)
 	return FText::FromString(String);
 }
 
+constexpr float FieldWidth = 200.0f;
+
 /** Two fields, one above the other; the first is the one under test. */
 struct FEditableTextTest : testing::Test
 {
@@ -36,7 +38,7 @@ struct FEditableTextTest : testing::Test
 			SNew(SVerticalBox)
 			+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left).Padding(FMargin(10.0f))
 			[
-				SNew(SBox).WidthOverride(200.0f)[Field.ToSharedRef()]
+				SNew(SBox).WidthOverride(FieldWidth)[Field.ToSharedRef()]
 			]
 			+ SVerticalBox::Slot().AutoHeight().Padding(FMargin(10.0f))
 			[
@@ -384,11 +386,11 @@ TEST_F(FEditableTextTest, AClickPutsTheCaretBetweenTheNearestCharacters)
 TEST_F(FEditableTextTest, AClickInTextFromRightToLeftPutsTheCaretWhereItIsSeen)
 {
 	Show(SEditableText::FArguments().Text(Text(TEXT("\u05D0\u05D1\u05D2"))));
-	Window->ClickAt(PlaceAt(WidthOf(3)));
+	Window->ClickAt(PlaceAt(FieldWidth - 1.0f));
 	Window->TypeText(TEXT("\u05D3"));
-	EXPECT_EQ(Shown(), FString(TEXT("\u05D3\u05D0\u05D1\u05D2"))) << "the text begins at its right end";
+	EXPECT_EQ(Shown(), FString(TEXT("\u05D3\u05D0\u05D1\u05D2"))) << "the text begins at the right end";
 
-	Window->ClickAt(PlaceAt(0.0f));
+	Window->ClickAt(PlaceAt(FieldWidth - WidthOf(4)));
 	Window->TypeText(TEXT("\u05D4"));
 	EXPECT_EQ(Shown(), FString(TEXT("\u05D3\u05D0\u05D1\u05D2\u05D4")));
 }
@@ -396,8 +398,8 @@ TEST_F(FEditableTextTest, AClickInTextFromRightToLeftPutsTheCaretWhereItIsSeen)
 TEST_F(FEditableTextTest, TheSelectionOfTextFromRightToLeftLiesUnderItsLetters)
 {
 	Show(SEditableText::FArguments().Text(Text(TEXT("\u05D0\u05D1\u05D2"))));
-	const FVector2D Begin = PlaceAt(WidthOf(3) - 4.0f);
-	const FVector2D End = PlaceAt(1.0f);
+	const FVector2D Begin = PlaceAt(FieldWidth - 4.0f);
+	const FVector2D End = PlaceAt(FieldWidth - WidthOf(3) + 1.0f);
 	const auto TopPixel = [this](const FVector2D& Place)
 	{
 		return Window->GetPixel(Place.X, Place.Y - 6);

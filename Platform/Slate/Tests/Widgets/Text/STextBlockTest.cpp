@@ -161,6 +161,33 @@ TEST_F(FTextBlockTest, StandsWhereTheJustificationPutsIt)
 	EXPECT_NEAR((Center.X + Center.Y) * 0.5, 100.0, 2.0);
 }
 
+TEST_F(FTextBlockTest, TextFromRightToLeftStandsAtTheRight)
+{
+	Show(STextBlock::FArguments().Text(Text(TEXT("\u05d0\u05d1\u05d2"))), 200.0f);
+
+	const FIntPoint Ink = FindInk(0, LineHeight());
+	EXPECT_GT(Ink.X, 150);
+	EXPECT_LE(Ink.Y, 200);
+}
+
+TEST_F(FTextBlockTest, EllipsisStandsForWhatDoesNotFit)
+{
+	const TCHAR* const Long = TEXT("A label that is longer than its room");
+	Show(STextBlock::FArguments().Text(Text(Long)), 100.0f);
+	EXPECT_GT(FindInk(0, LineHeight()).Y, 110);
+
+	Label->SetOverflowPolicy(ETextOverflowPolicy::Ellipsis);
+	const FIntPoint Shortened = FindInk(0, LineHeight());
+	EXPECT_LE(Shortened.Y, 100);
+	EXPECT_GT(Shortened.Y, 80);
+	EXPECT_EQ(Label->GetText().ToString(), FString(Long));
+
+	Show(STextBlock::FArguments().Text(Text(TEXT("Fits"))).OverflowPolicy(ETextOverflowPolicy::Ellipsis), 100.0f);
+	const FIntPoint Fitting = FindInk(0, LineHeight());
+	Label->SetOverflowPolicy(ETextOverflowPolicy::Clip);
+	EXPECT_EQ(FindInk(0, LineHeight()), Fitting);
+}
+
 TEST_F(FTextBlockTest, LinesAreJustifiedEachByItself)
 {
 	Show(STextBlock::FArguments().Text(Text(TEXT("wide line\nx"))).Justification(ETextJustify::Right), 200.0f);
