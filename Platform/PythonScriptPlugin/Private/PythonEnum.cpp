@@ -143,8 +143,9 @@ FPythonRef PythonEnum::MakeType(UEnum* Enum)
 		}
 		const FString EntryName = PythonNaming::NameOfEntry(Enum, Index);
 		const int64 Value = Enum->GetValueByIndex(Index);
-		const FPythonRef Entry = MakeEntry(PythonTypes::AsType(Result.Type), Enum, EntryName, Value);
-		if (!Entry || PyObject_SetAttr(Result.Type.Get(), FPythonEnumEntry::From(Entry.Get()).Name.Get(), Entry.Get()) < 0)
+		PyTypeObject* const Type = PythonTypes::AsType(Result.Type);
+		const FPythonRef Entry = MakeEntry(Type, Enum, EntryName, Value);
+		if (!Entry || !PythonTypes::AddAttribute(Type, FPythonEnumEntry::From(Entry.Get()).Name.Get(), Entry.Get()))
 		{
 			return FPythonRef();
 		}

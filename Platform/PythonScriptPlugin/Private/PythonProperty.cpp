@@ -152,18 +152,45 @@ struct FPythonAttribute
 {
 	TUniquePtr<FPythonProperty> Property;
 	FPythonRef Doc;
-	bool bOfObject;
+	const UStruct* Owner;
+	/** That of the owner. It outlives the attribute, which stands in its dictionary. */
+	PyTypeObject* OwnerType;
 
 	static const FPythonAttribute& From(PyObject* Self) { return PythonTypes::StateOf<FPythonAttribute>(Self); }
 
-	/** The memory of the instance; null with an error if there is none. */
+	/** The memory of the instance; null with an error if there is none, or if it is not one of the owner's. */
 	void* ContainerOf(PyObject* Instance) const
 	{
 		if (!FPythonInterpreter::CheckMainThread())
 		{
 			return nullptr;
 		}
-		return bOfObject ? static_cast<void*>(PythonObjects::FromWrapper(Instance)) : PythonStruct::MemoryOf(Instance);
+		return Owner->IsA<UClass>() ? ObjectOf(Instance) : StructOf(Instance);
+	}
+
+private:
+	void* ObjectOf(PyObject* Instance) const
+	{
+		if (!PythonObjects::IsWrapper(Instance))
+		{
+			return RaiseForeign(Instance);
+		}
+		UObject* const Object = PythonObjects::FromWrapper(Instance);
+		return !Object || Object->IsA(static_cast<const UClass*>(Owner)) ? Object : RaiseForeign(Instance);
+	}
+
+	void* StructOf(PyObject* Instance) const
+	{
+		const UScriptStruct* const Struct = PythonStruct::StructOfValue(Instance);
+		return Struct && Struct->IsChildOf(Owner) ? PythonStruct::MemoryOf(Instance) : RaiseForeign(Instance);
+	}
+
+	void* RaiseForeign(PyObject* Instance) const
+	{
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("descriptor '%s' for '%s' objects doesn't apply to a '%s' object"), *Property->GetName(),
+				UTF8_TO_TCHAR(OwnerType->tp_name), *PythonStrings::TypeNameOf(Instance)));
+		return nullptr;
 	}
 };
 
@@ -240,9 +267,8 @@ bool PythonProperty::AddAttributes(PyTypeObject* Type, const UStruct* Struct)
 		TUniquePtr<FPythonProperty> Property = MakeUnique<FPythonProperty>(*It);
 		const FPythonRef Name = PythonStrings::Intern(Property->GetName());
 		const FPythonRef Doc = PythonStrings::ToPython(DescribeProperty(*Property));
-		const FPythonRef Attribute =
-			PythonTypes::New<FPythonAttribute>(AttributeType(), MoveTemp(Property), Doc, Struct->IsA<UClass>());
-		if (!Attribute || PyObject_SetAttr(reinterpret_cast<PyObject*>(Type), Name.Get(), Attribute.Get()) < 0)
+		const FPythonRef Attribute = PythonTypes::New<FPythonAttribute>(AttributeType(), MoveTemp(Property), Doc, Struct, Type);
+		if (!Attribute || !PythonTypes::AddAttribute(Type, Name.Get(), Attribute.Get()))
 		{
 			return false;
 		}

@@ -12,7 +12,8 @@ struct TPythonInstance
 /**
  * Describes a Python type implemented here, then makes it.
  *
- * Every type is a heap type, so that all types of the `unreal` module behave alike and end with the interpreter.
+ * Every type is a heap type, so that all types of the `unreal` module behave alike and end with the interpreter. Scripts cannot
+ * change any of them, nor make an instance one of another type.
  */
 class FPythonTypeSpec
 {
@@ -70,6 +71,9 @@ inline PyTypeObject* AsType(const FPythonRef& Type)
 {
 	return reinterpret_cast<PyTypeObject*>(Type.Get());
 }
+
+/** Gives a type an attribute, which scripts cannot do. False with a Python error when memory runs out. */
+bool AddAttribute(PyTypeObject* Type, PyObject* Name, PyObject* Value);
 
 template <typename StateType>
 StateType& StateOf(PyObject* Self)

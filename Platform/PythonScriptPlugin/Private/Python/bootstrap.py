@@ -122,7 +122,7 @@ def _describe_type(name, built_in):
             lines.append(_describe_callable(member, getattr(built_in, member), "    ", "    @staticmethod\n"))
         elif inspect.isroutine(value) and not member.startswith("__"):
             lines.append(_describe_callable(member, value, "    "))
-        elif inspect.isgetsetdescriptor(value):
+        elif inspect.isgetsetdescriptor(value) and not member.startswith("__"):
             lines.append(f"    @property\n    def {member}(self) -> Any:\n        ...\n\n")
     return "".join(lines) + ("    ...\n\n" if len(lines) == 1 else "") + "\n"
 
