@@ -1,5 +1,6 @@
 #include "PythonContainers.h"
 #include "PythonErrors.h"
+#include "PythonMappings.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
 
@@ -28,7 +29,7 @@ static bool AddTo(const FPythonContainerType& Type, FScriptMapHelper& Helper, Py
 
 bool PythonContainers::FillMap(const FPythonContainerType& Type, PyObject* Value, void* Memory)
 {
-	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? FPythonRef::Steal(PyMapping_Items(Value)) : FPythonRef();
+	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? PythonMappings::ItemsOf(Value) : FPythonRef();
 	if (!Items)
 	{
 		PyErr_Clear();

@@ -2,6 +2,7 @@
 
 #include "PythonErrors.h"
 #include "PythonInterpreter.h"
+#include "PythonMappings.h"
 #include "PythonNaming.h"
 #include "PythonObjects.h"
 #include "PythonProperty.h"
@@ -98,7 +99,7 @@ void* PythonStruct::MemoryOf(PyObject* Value)
 static bool SetFieldsByName(UScriptStruct* Struct, PyObject* Mapping, void* Memory)
 {
 	const TSharedRef<const FPythonPropertyTable> Table = FPythonPropertyTable::Of(Struct);
-	const FPythonRef Items = FPythonRef::Steal(PyMapping_Items(Mapping));
+	const FPythonRef Items = PythonMappings::ItemsOf(Mapping);
 	if (!Items)
 	{
 		return false;

@@ -1,6 +1,7 @@
 #include "PythonText.h"
 
 #include "PythonErrors.h"
+#include "PythonMappings.h"
 #include "PythonName.h"
 #include "PythonStrings.h"
 #include "PythonTypeSpec.h"
@@ -124,7 +125,7 @@ static FFormatArgumentValue ToFormatArgument(PyObject* Value)
 
 static void AddNamedArguments(PyObject* Values, FFormatNamedArguments& OutArguments)
 {
-	const FPythonRef Items = FPythonRef::Steal(PyMapping_Items(Values));
+	const FPythonRef Items = PythonMappings::ItemsOf(Values);
 	for (Py_ssize_t Index = 0; Items && Index < PyList_GET_SIZE(Items.Get()); ++Index)
 	{
 		PyObject* const Item = PyList_GET_ITEM(Items.Get(), Index);
