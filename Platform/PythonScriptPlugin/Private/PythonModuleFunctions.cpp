@@ -126,11 +126,14 @@ static PyObject* NewObjectOfClass(PyObject*, PyObject* Arguments, PyObject* Keyw
 		return nullptr;
 	}
 	FName Name;
-	UClass* const Class = PythonObjects::ClassFromPython(Type);
-	if (!Class || (NameValue && !PythonName::FromPython(NameValue, Name)) ||
-		(OuterValue != Py_None && !PythonObjects::IsWrapper(OuterValue)))
+	UClass* const Class = PythonObjects::OwnClassFromPython(Type);
+	if (!Class || !PythonObjectMethods::ReadObjectName(NameValue, Name))
 	{
-		PythonErrors::Raise(PyExc_TypeError, TEXT("new_object() wants a Class or type, an Object or None, and a Name or str"));
+		return nullptr;
+	}
+	if (OuterValue != Py_None && !PythonObjects::IsWrapper(OuterValue))
+	{
+		PythonErrors::RaiseUnexpectedType(TEXT("Object or None as outer"), OuterValue);
 		return nullptr;
 	}
 	UObject* const Outer = OuterValue != Py_None ? PythonObjects::FromWrapper(OuterValue) : GetTransientPackage();
@@ -140,16 +143,8 @@ static PyObject* NewObjectOfClass(PyObject*, PyObject* Arguments, PyObject* Keyw
 
 static PyObject* GetDefaultObjectOfClass(PyObject*, PyObject* Type)
 {
-	UClass* const Class = FPythonInterpreter::CheckMainThread() ? PythonObjects::ClassFromPython(Type) : nullptr;
-	if (!Class)
-	{
-		if (!PyErr_Occurred())
-		{
-			PythonErrors::RaiseUnexpectedType(TEXT("Class or type"), Type);
-		}
-		return nullptr;
-	}
-	return PythonObjects::ToPython(Class->GetDefaultObject()).Release();
+	UClass* const Class = FPythonInterpreter::CheckMainThread() ? PythonObjects::OwnClassFromPython(Type) : nullptr;
+	return Class ? PythonObjects::ToPython(Class->GetDefaultObject()).Release() : nullptr;
 }
 
 static PyObject* GetTypeFromClass(PyObject*, PyObject* Value)

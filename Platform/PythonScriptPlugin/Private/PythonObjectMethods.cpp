@@ -3,6 +3,7 @@
 #include "PythonErrors.h"
 #include "PythonFunction.h"
 #include "PythonInterpreter.h"
+#include "PythonMappings.h"
 #include "PythonName.h"
 #include "PythonNaming.h"
 #include "PythonObjects.h"
@@ -107,8 +108,8 @@ static PyObject* StaticClassOf(PyObject* Type, PyObject*)
 
 static PyObject* GetDefaultObjectOf(PyObject* Type, PyObject*)
 {
-	UClass* const Class = PythonTypeTable::ClassOf(reinterpret_cast<PyTypeObject*>(Type));
-	return PythonObjects::ToPython(Class ? Class->GetDefaultObject() : nullptr).Release();
+	UClass* const Class = PythonObjects::OwnClassFromPython(Type);
+	return Class ? PythonObjects::ToPython(Class->GetDefaultObject()).Release() : nullptr;
 }
 
 static PyObject* ModifyObject(PyObject* Self, PyObject* Arguments)
@@ -139,9 +140,8 @@ static PyObject* RenameObject(PyObject* Self, PyObject* Arguments, PyObject* Key
 		return nullptr;
 	}
 	FName Name;
-	if (NameValue != Py_None && !PythonName::FromPython(NameValue, Name))
+	if (!PythonObjectMethods::ReadObjectName(NameValue, Name))
 	{
-		PythonErrors::RaiseUnexpectedType(TEXT("Name, str or None as name"), NameValue);
 		return nullptr;
 	}
 	UObject* Outer = Object->GetOuter();
@@ -164,7 +164,49 @@ static PyObject* RenameObject(PyObject* Self, PyObject* Arguments, PyObject* Key
 		PythonErrors::Raise(PyExc_ValueError, FString::Printf(TEXT("the name is taken by '%s'"), *Taken->GetPathName()));
 		return nullptr;
 	}
-	return PyBool_FromLong(Object->Rename(NameValue == Py_None ? nullptr : *Name.ToString(), Outer));
+	return PyBool_FromLong(Object->Rename(Name.IsNone() ? nullptr : *Name.ToString(), Outer));
+}
+
+bool PythonObjectMethods::ReadObjectName(PyObject* Value, FName& OutName)
+{
+	if (!Value || Value == Py_None)
+	{
+		return true;
+	}
+	if (!PythonName::FromPython(Value, OutName))
+	{
+		return PythonErrors::RaiseUnexpectedType(TEXT("Name, str or None as name"), Value);
+	}
+	// The engine would see the name only up to there, or none at all.
+	if (PyUnicode_Check(Value) && PyUnicode_FindChar(Value, 0, 0, PyUnicode_GET_LENGTH(Value), 1) >= 0)
+	{
+		PyErr_SetString(PyExc_ValueError, "embedded null character in a name");
+		return false;
+	}
+	return true;
+}
+
+/** Whether the name is free for an object of that class, or belongs to one that a new one may replace. */
+static bool CheckPlaceOfObject(const UClass* Class, UObject* Outer, FName Name)
+{
+	const UObject* const Taken = ObjectAt(Outer, Name);
+	if (!Taken)
+	{
+		return true;
+	}
+	if (Taken->GetClass() != Class)
+	{
+		PythonErrors::Raise(PyExc_ValueError,
+			FString::Printf(
+				TEXT("'%s' is an object of another class, %s"), *Taken->GetPathName(), *Taken->GetClass()->GetName()));
+		return false;
+	}
+	if (Taken->HasAnyFlags(RF_ClassDefaultObject))
+	{
+		PythonErrors::Raise(PyExc_ValueError, FString::Printf(TEXT("'%s' is a default object"), *Taken->GetPathName()));
+		return false;
+	}
+	return true;
 }
 
 UObject* PythonObjectMethods::MakeObject(UClass* Class, UObject* Outer, FName Name)
@@ -175,15 +217,13 @@ UObject* PythonObjectMethods::MakeObject(UClass* Class, UObject* Outer, FName Na
 			FString::Printf(TEXT("the class '%s' is abstract"), Class ? *PythonNaming::NameOf(Class) : TEXT("_ObjectBase")));
 		return nullptr;
 	}
-	const UObject* const Taken = ObjectAt(Outer, Name);
-	if (Taken && Taken->GetClass() != Class)
+	if (Class->IsChildOf(UField::StaticClass()) || !Class->ClassConstructor)
 	{
-		PythonErrors::Raise(PyExc_ValueError,
-			FString::Printf(
-				TEXT("'%s' is an object of another class, %s"), *Taken->GetPathName(), *Taken->GetClass()->GetName()));
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("objects of the class '%s' are made by reflection alone"), *PythonNaming::NameOf(Class)));
 		return nullptr;
 	}
-	return NewObject<UObject>(Outer, Class, Name);
+	return CheckPlaceOfObject(Class, Outer, Name) ? NewObject<UObject>(Outer, Class, Name) : nullptr;
 }
 
 static PyObject* GetEditorProperty(PyObject* Self, PyObject* Arguments, PyObject* Keywords)
@@ -289,7 +329,7 @@ static PyObject* SetEditorProperty(PyObject* Self, PyObject* Arguments, PyObject
 static PyObject* SetEditorProperties(PyObject* Self, PyObject* Properties)
 {
 	UObject* const Object = ObjectOf(Self);
-	const FPythonRef Items = Object ? FPythonRef::Steal(PyMapping_Items(Properties)) : FPythonRef();
+	const FPythonRef Items = Object ? PythonMappings::ItemsOf(Properties) : FPythonRef();
 	if (!Items)
 	{
 		return nullptr;

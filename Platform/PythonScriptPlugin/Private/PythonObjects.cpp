@@ -89,7 +89,24 @@ UClass* PythonObjects::ClassFromPython(PyObject* Value)
 		return PythonTypeTable::ClassOf(reinterpret_cast<PyTypeObject*>(Value));
 	}
 	UObject* const Object = IsWrapper(Value) ? FPythonObject::From(Value).Live.Get() : nullptr;
-	return Object && Object->IsA<UClass>() ? static_cast<UClass*>(Object) : nullptr;
+	const bool bIsClass = Object && Object->IsA<UClass>() && !Object->HasAnyFlags(RF_ClassDefaultObject);
+	return bIsClass ? static_cast<UClass*>(Object) : nullptr;
+}
+
+UClass* PythonObjects::OwnClassFromPython(PyObject* Value)
+{
+	UClass* const Class = ClassFromPython(Value);
+	if (!Class)
+	{
+		PythonErrors::RaiseUnexpectedType(TEXT("Class or type"), Value);
+	}
+	else if (PyType_Check(Value) && PythonTypeTable::TypeOf(Class) != reinterpret_cast<PyTypeObject*>(Value))
+	{
+		PyErr_Format(PyExc_TypeError, "the type '%s', made by a script, has no class of the engine",
+			reinterpret_cast<PyTypeObject*>(Value)->tp_name);
+		return nullptr;
+	}
+	return Class;
 }
 
 static void Forget(UObject* Object)
@@ -165,12 +182,6 @@ static bool ReadOuter(PyObject* Value, UObject*& OutOuter)
 	return OutOuter != nullptr;
 }
 
-static bool ReadObjectName(PyObject* Value, FName& OutName)
-{
-	return !Value || PythonName::FromPython(Value, OutName) ||
-		PythonErrors::RaiseUnexpectedType(TEXT("Name or str as name"), Value);
-}
-
 /** unreal.SomeClass(outer=None, name='None') makes an object. */
 static PyObject* NewObjectOfType(PyTypeObject* Type, PyObject* Arguments, PyObject* Keywords)
 {
@@ -181,7 +192,7 @@ static PyObject* NewObjectOfType(PyTypeObject* Type, PyObject* Arguments, PyObje
 	FName Name;
 	if (!FPythonInterpreter::CheckMainThread() ||
 		!PyArg_ParseTupleAndKeywords(Arguments, Keywords, "|OO", const_cast<char**>(Names), &OuterValue, &NameValue) ||
-		!ReadOuter(OuterValue, Outer) || !ReadObjectName(NameValue, Name))
+		!ReadOuter(OuterValue, Outer) || !PythonObjectMethods::ReadObjectName(NameValue, Name))
 	{
 		return nullptr;
 	}

@@ -29,8 +29,14 @@ bool IsWrapper(PyObject* Value);
 /** The object of a wrapper; null with ReferenceError if it was destroyed. */
 UObject* FromWrapper(PyObject* Wrapper);
 
-/** Takes a wrapper of a Class object or a Python type made from a class; null, without an error, for anything else. */
+/**
+ * Takes a wrapper of a Class object, or a type that is made from a class or derived from one by a script, which stands for the
+ * same class; null, without an error, for anything else. The default object of a kind of classes is none itself.
+ */
 UClass* ClassFromPython(PyObject* Value);
+
+/** As ClassFromPython, for what needs the class to be that very type's; null with a TypeError for anything else. */
+UClass* OwnClassFromPython(PyObject* Value);
 
 /** Forgets the object in its wrapper, and those inside of it on demand, so that they can be collected. */
 void PurgeReferences(UObject* Object, bool bIncludeInners);

@@ -155,3 +155,95 @@ TEST(PythonObjects, PythonClassesMayDerive)
 	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
 	EXPECT_EQ(FindObject<UPythonTestObject>(GetTransientPackage(), TEXT("ToolObject")), nullptr);
 }
+
+TEST(PythonObjects, RenameToNothingMakesANewName)
+{
+	EXPECT_TRUE(
+		RunPython(TEXT("first = unreal.PythonTestObject(name='First')\nsecond = unreal.PythonTestObject(name='Second')")));
+	EXPECT_EQ(Evaluate(TEXT("(first.rename(''), second.rename(''), second.rename(None), first.rename('None'))")),
+		TEXT("(True, True, True, True)"));
+	EXPECT_EQ(Evaluate(TEXT("first.get_name().startswith('PythonTestObject_') and first.get_name() != second.get_name()")),
+		TEXT("True"));
+}
+
+TEST(PythonObjects, NamesWithANullCharacterAreRefused)
+{
+	const FString Expected = TEXT("ValueError: embedded null character in a name");
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject().rename('\\0')")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject(name='a\\0b')")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("unreal.new_object(unreal.PythonTestObject, None, '\\0')")), Expected);
+}
+
+TEST(PythonObjects, RenameIntoItselfIsRefusedWithAnErrorLine)
+{
+	EXPECT_TRUE(RunPython(TEXT("outside = unreal.PythonTestObject(name='Outside')\ninside = unreal.PythonTestObject(outside)")));
+	const FLogCapture Log(TEXT("LogObj"));
+	EXPECT_EQ(Evaluate(TEXT("(outside.rename(outer=outside), outside.rename('X', inside))")), TEXT("(False, False)"));
+	EXPECT_EQ(Log.Errors().Num(), 2);
+	EXPECT_EQ(Evaluate(TEXT("outside.get_path_name()")), TEXT("'/Engine/Transient.Outside'"));
+}
+
+TEST(PythonObjects, TypesAreMadeByReflectionAlone)
+{
+	EXPECT_EQ(ErrorOf(TEXT("unreal.Class()")), TEXT("TypeError: objects of the class 'Class' are made by reflection alone"));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.new_object(unreal.ScriptStruct.static_class())")),
+		TEXT("TypeError: objects of the class 'ScriptStruct' are made by reflection alone"));
+	EXPECT_EQ(ErrorOf(TEXT("type('Mine', (unreal.Class,), {})()")),
+		TEXT("TypeError: objects of the class 'Class' are made by reflection alone"));
+}
+
+TEST(PythonObjects, TheDefaultObjectOfAKindOfClassesIsNoClass)
+{
+	EXPECT_TRUE(RunPython(TEXT("default_class = unreal.get_default_object(unreal.Class)")));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.new_object(default_class)")), TEXT("TypeError: expected Class or type, got Class"));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.get_default_object(default_class)")), TEXT("TypeError: expected Class or type, got Class"));
+}
+
+TEST(PythonObjects, TypesOfScriptsHaveNoClass)
+{
+	EXPECT_TRUE(RunPython(TEXT("Mine = type('Mine', (unreal.PythonTestObject,), {})")));
+	const FString Expected = TEXT("TypeError: the type 'Mine', made by a script, has no class of the engine");
+	EXPECT_EQ(ErrorOf(TEXT("unreal.new_object(Mine)")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("unreal.get_default_object(Mine)")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("Mine.get_default_object()")), Expected);
+}
+
+TEST(PythonObjects, DefaultObjectsAreNotReplaced)
+{
+	EXPECT_EQ(ErrorOf(TEXT("default = unreal.get_default_object(unreal.PythonTestObject)\n"
+						   "unreal.PythonTestObject(default.get_outer(), default.get_name())")),
+		TEXT("ValueError: '/Script/PythonScriptPluginTests.Default__PythonTestObject' is a default object"));
+}
+
+TEST(PythonObjects, TheClassOfAnInstanceCannotBeChanged)
+{
+	EXPECT_TRUE(RunPython(TEXT("First = type('First', (unreal.PythonTestObject,), {})\n"
+							   "Second = type('Second', (unreal.PythonTestAbstract,), {})\n"
+							   "instance = First()")));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject().__class__ = unreal.PythonTestChild")),
+		TEXT("TypeError: the class of a 'PythonTestObject' cannot be changed"));
+	EXPECT_EQ(ErrorOf(TEXT("instance.__class__ = Second")), TEXT("TypeError: the class of a 'First' cannot be changed"));
+	EXPECT_EQ(Evaluate(TEXT("instance.__class__ is First")), TEXT("True"));
+}
+
+TEST(PythonObjects, MethodsAndPropertiesCheckTheObjectBehindAnInstance)
+{
+	// Python takes such an instance for one of both types.
+	EXPECT_TRUE(RunPython(TEXT("Both = type('Both', (unreal.PythonTestFunctions, unreal.PythonTestObject), {})\nboth = Both()")));
+	EXPECT_EQ(ErrorOf(TEXT("both.count")),
+		TEXT("TypeError: descriptor 'count' for 'PythonTestObject' objects doesn't apply to a 'Both' object"));
+	EXPECT_EQ(ErrorOf(TEXT("both.set_text('a', 'b')")),
+		TEXT("TypeError: set_text() needs an object of type 'PythonTestObject' to be called on"));
+}
+
+TEST(PythonObjects, EngineTypesCannotBeChanged)
+{
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestObject.count = 1")),
+		TEXT("TypeError: cannot set 'count' attribute of immutable type 'PythonTestObject'"));
+	EXPECT_EQ(ErrorOf(TEXT("del unreal.Object.get_name")),
+		TEXT("TypeError: cannot set 'get_name' attribute of immutable type 'Object'"));
+	EXPECT_EQ(
+		ErrorOf(TEXT("unreal.Array.append = len")), TEXT("TypeError: cannot set 'append' attribute of immutable type 'Array'"));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.RED = 1")),
+		TEXT("TypeError: cannot set 'RED' attribute of immutable type 'PythonTestColor'"));
+}

@@ -100,3 +100,24 @@ TEST_F(PythonProperty, DocumentationTellsTypeAndAccess)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestObject.title.__doc__")), TEXT("'(str): [Read-Write] Text at the top.'"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestObject.fixed.__doc__.split(']')[0]")), TEXT("'(float): [Read-Only'"));
 }
+
+TEST_F(PythonProperty, DescriptorsRefuseInstancesOfOtherTypes)
+{
+	EXPECT_EQ(ErrorOf(TEXT("vars(unreal.PythonTestPlace)['label'].__set__(subject, 'x')")),
+		TEXT("TypeError: descriptor 'label' for 'PythonTestPlace' objects doesn't apply to a 'PythonTestObject' object"));
+	EXPECT_EQ(ErrorOf(TEXT("vars(unreal.PythonTestObject)['count'].__get__(unreal.PythonTestPlace())")),
+		TEXT("TypeError: descriptor 'count' for 'PythonTestObject' objects doesn't apply to a 'PythonTestPlace' object"));
+	EXPECT_EQ(ErrorOf(TEXT("vars(unreal.PythonTestObject)['count'].__get__(5)")),
+		TEXT("TypeError: descriptor 'count' for 'PythonTestObject' objects doesn't apply to a 'int' object"));
+	EXPECT_EQ(ErrorOf(TEXT("vars(unreal.PythonTestObject)['count'].__set__(unreal.PythonTestFunctions(), 3)")),
+		TEXT("TypeError: descriptor 'count' for 'PythonTestObject' objects doesn't apply to a 'PythonTestFunctions' object"));
+}
+
+TEST_F(PythonProperty, AMappingWhoseItemsAreNoPairsIsRefused)
+{
+	EXPECT_TRUE(RunPython(TEXT("class Odd(dict):\n    def items(self):\n        return [1, 2]\n")));
+	const FString Expected = TEXT("TypeError: items() of a 'Odd' gives something other than pairs");
+	EXPECT_EQ(ErrorOf(TEXT("subject.set_editor_properties(Odd())")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace.cast(Odd())")), Expected);
+	EXPECT_EQ(ErrorOf(TEXT("unreal.Text('{a}').format(Odd())")), Expected);
+}

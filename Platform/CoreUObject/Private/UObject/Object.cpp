@@ -50,17 +50,37 @@ void UObject::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent
 	FCoreUObjectDelegates::OnObjectPropertyChanged.Broadcast(this, PropertyChangedEvent);
 }
 
+/** Why an object cannot get a name in an outer; null if it can. */
+static const TCHAR* FindReasonAgainstRename(const UObject& Object, const UObject* Outer, FName Name)
+{
+	if (Object.HasAnyFlags(RF_ClassDefaultObject) || Object.IsA<UField>())
+	{
+		return TEXT("default objects, types and functions keep their names and places");
+	}
+	if (Object.IsA<UPackage>() && (Outer != Object.GetOuter() || FObjectTable::Get().IsPermanent(&Object)))
+	{
+		return TEXT("packages keep their places, those of the engine their names too");
+	}
+	if (Outer == &Object || (Outer && Outer->IsIn(&Object)))
+	{
+		return TEXT("it would lie within itself");
+	}
+	const UObject* const Taken = FObjectTable::Get().FindInOuter(Outer, Name);
+	return Taken && Taken != &Object ? TEXT("the name is taken") : nullptr;
+}
+
 bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, uint32 Flags)
 {
 	UObject* const OldOuter = GetOuter();
 	const FName OldName = GetFName();
 	UObject* const Outer = NewOuter ? NewOuter : OldOuter;
-	const FName Name = NewName ? FName(NewName) : MakeUniqueObjectName(Outer, GetClass());
-	const UObject* const Taken = FObjectTable::Get().FindInOuter(Outer, Name);
-	if (Taken && Taken != this)
+	const FName GivenName(NewName ? NewName : TEXT(""));
+	const FName Name = GivenName.IsNone() ? MakeUniqueObjectName(Outer, GetClass()) : GivenName;
+	if (const TCHAR* const Reason = FindReasonAgainstRename(*this, Outer, Name))
 	{
-		UE_LOG(LogObj, Fatal, TEXT("Renaming an object (%s) on top of an existing object (%s) is not allowed"), *GetFullName(),
-			*Taken->GetFullName());
+		UE_LOG(LogObj, Error, TEXT("%s cannot become '%s' in %s: %s"), *GetFullName(), *Name.ToString(), *GetFullNameSafe(Outer),
+			Reason);
+		return false;
 	}
 	MarkPackageDirty();
 	FObjectTable::Get().SetNameAndOuter(*this, Name, Outer);

@@ -53,6 +53,11 @@ public:
 
 	FObjectItem& ItemOf(const UObjectBase* Object) { return Items[Object->InternalIndex]; }
 	TArray<FObjectItem>& GetItems() { return Items; }
+	/** True for what lives as long as the process. */
+	bool IsPermanent(const UObjectBase* Object)
+	{
+		return ItemOf(Object).HasAnyFlags(EInternalObjectFlags::Native | EInternalObjectFlags::RootSet);
+	}
 	/** Null for an index that is free. */
 	const FObjectItem* FindItem(int32 Index) const
 	{

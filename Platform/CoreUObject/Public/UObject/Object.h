@@ -44,8 +44,10 @@ public:
 	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent);
 
 	/**
-	 * Gives the object another name, another outer or both. A null name makes a new one, a null outer keeps the outer.
-	 * A name that is taken is fatal.
+	 * Gives the object another name, another outer or both. A null or empty name makes a new one, a null outer keeps the outer.
+	 *
+	 * @return False, with an Error in LogObj, for a name that is taken, an outer within the object, and what keeps its name and
+	 * place: default objects, types and functions, the packages of modules and the transient package.
 	 */
 	virtual bool Rename(const TCHAR* NewName = nullptr, UObject* NewOuter = nullptr, uint32 Flags = 0);
 

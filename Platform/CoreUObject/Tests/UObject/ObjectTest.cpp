@@ -163,6 +163,68 @@ TEST(Object, RenameMovesAndIsFoundUnderItsNewName)
 	EXPECT_TRUE(To->IsDirty());
 }
 
+TEST(Object, RenameToNothingMakesANewName)
+{
+	UPackage* const Package = CreatePackage(TEXT("/Game/Nameless"));
+	UTestObject* const First = NewObject<UTestObject>(Package, TEXT("First"));
+	UTestObject* const Second = NewObject<UTestObject>(Package, TEXT("Second"));
+
+	EXPECT_TRUE(First->Rename(TEXT("")));
+	EXPECT_TRUE(Second->Rename(TEXT("None")));
+
+	EXPECT_TRUE(First->GetName().StartsWith(TEXT("TestObject_")));
+	EXPECT_TRUE(Second->GetName().StartsWith(TEXT("TestObject_")));
+	EXPECT_NE(First->GetFName(), Second->GetFName());
+}
+
+TEST(Object, RenameToATakenNameIsRefused)
+{
+	UPackage* const Package = CreatePackage(TEXT("/Game/Crowded"));
+	UTestObject* const Object = NewObject<UTestObject>(Package, TEXT("Late"));
+	NewObject<UTestObject>(Package, TEXT("Early"));
+	const FLogCapture Log(TEXT("LogObj"));
+
+	EXPECT_FALSE(Object->Rename(TEXT("Early")));
+
+	EXPECT_EQ(Object->GetName(), TEXT("Late"));
+	EXPECT_EQ(Log.Errors(),
+		TArray<FString>(
+			{TEXT("TestObject /Game/Crowded.Late cannot become 'Early' in Package /Game/Crowded: the name is taken")}));
+}
+
+TEST(Object, RenameIntoItselfOrWhatItHoldsIsRefused)
+{
+	UTestObject* const Object = NewObject<UTestObject>(CreatePackage(TEXT("/Game/Circle")), TEXT("Outer"));
+	UTestObject* const Inner = NewObject<UTestObject>(NewObject<UTestObject>(Object, TEXT("Middle")), TEXT("Inner"));
+	const FLogCapture Log(TEXT("LogObj"));
+
+	EXPECT_FALSE(Object->Rename(nullptr, Object));
+	EXPECT_FALSE(Object->Rename(TEXT("New"), Inner));
+
+	EXPECT_EQ(Object->GetPathName(), TEXT("/Game/Circle.Outer"));
+	EXPECT_EQ(Log.Errors().Num(), 2);
+	EXPECT_TRUE(Log.Errors()[0].EndsWith(TEXT("in TestObject /Game/Circle.Outer: it would lie within itself")));
+}
+
+TEST(Object, WhatReflectionMadeKeepsItsNameAndPlace)
+{
+	UTestObject* const Object = NewObject<UTestObject>();
+	UClass* const Class = UTestObject::StaticClass();
+	const FLogCapture Log(TEXT("LogObj"));
+
+	EXPECT_FALSE(Class->GetDefaultObject()->Rename(TEXT("Usual")));
+	EXPECT_FALSE(Class->Rename(TEXT("Renamed")));
+	EXPECT_FALSE(Class->Rename(nullptr, Object));
+	EXPECT_FALSE(Class->GetOutermost()->Rename(TEXT("/Script/Renamed")));
+	EXPECT_FALSE(GetTransientPackage()->Rename(TEXT("/Engine/Renamed")));
+	EXPECT_FALSE(CreatePackage(TEXT("/Game/Moving"))->Rename(nullptr, Object));
+
+	EXPECT_EQ(Log.Errors().Num(), 6);
+	EXPECT_EQ(Class->GetDefaultObject()->GetName(), TEXT("Default__TestObject"));
+	EXPECT_TRUE(CreatePackage(TEXT("/Game/Moving"))->Rename(TEXT("/Game/Moved")));
+	EXPECT_EQ(FindPackage(nullptr, TEXT("/Game/Moving")), nullptr);
+}
+
 TEST(Object, TypedOuterIsTheNearestOfThatClass)
 {
 	UTestObject* const Outer = NewObject<UTestObject>();
