@@ -91,6 +91,7 @@ FEngineLoop::~FEngineLoop() = default;
 
 bool FEngineLoop::PreInit(const TCHAR* CommandLine)
 {
+	FPlatformMisc::SetCrashHandler();
 	FCommandLine::Set(CommandLine);
 	FString ProjectFile;
 	const TCHAR* Rest = CommandLine;

@@ -1,5 +1,6 @@
 #include "Misc/AssertionMacros.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <dlfcn.h>
@@ -68,6 +69,8 @@ void EndProcessByError(const FString& Message)
 {
 	// A failure while another one is being handled, here or on another thread, must not begin anew.
 	static std::atomic<bool> bEnding = false;
+	// What the signal would tell is told here.
+	signal(SIGABRT, SIG_DFL);
 	if (bEnding.exchange(true))
 	{
 		abort();

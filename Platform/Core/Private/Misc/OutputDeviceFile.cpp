@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "HAL/CrashHandler.h"
 #include "HAL/FileManager.h"
 #include "HAL/NativePath.h"
 #include "Misc/DateTime.h"
@@ -113,6 +114,10 @@ FOutputDeviceFile::FOutputDeviceFile(const TCHAR* InFilename)
 		Filename = Stem + FString::Printf(TEXT("_%d"), Number) + Extension;
 		Handle = OpenAlone(Filename);
 	}
+	if (Handle != -1)
+	{
+		CrashLogs::Add(Handle);
+	}
 	DeleteOldestBackups(Filename);
 	WriteLine(TEXT("Log file open, ") + FDateTime::Now().ToString(GTimeFormat));
 }
@@ -140,6 +145,7 @@ void FOutputDeviceFile::TearDown()
 	WriteLine(TEXT("Log file closed, ") + FDateTime::Now().ToString(GTimeFormat));
 	if (Handle != -1)
 	{
+		CrashLogs::Remove(Handle);
 		close(Handle);
 		Handle = -1;
 	}

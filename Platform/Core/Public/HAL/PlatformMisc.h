@@ -17,4 +17,11 @@ struct CORE_API FPlatformMisc
 
 	/** The status that was asked for with RequestExitWithStatus, 0 before. */
 	static uint8 GetRequestedReturnCode();
+
+	/**
+	 * From now on a signal that tells of a fault (SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT) leaves a line and a call stack in the log
+	 * files and on the standard error output, and kills the process after that. To be called on the main thread, whose stack may
+	 * be full then; on others it may not. Without effect under the address sanitizer, which reports such signals itself.
+	 */
+	static void SetCrashHandler();
 };
