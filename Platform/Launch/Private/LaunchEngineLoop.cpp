@@ -5,6 +5,7 @@
 #include "EditorPythonScriptingLibrary.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
+#include "GarbageSchedule.h"
 #include "HAL/FileManager.h"
 #include "HAL/IConsoleManager.h"
 #include "HAL/PlatformMisc.h"
@@ -23,7 +24,6 @@
 #include "Modules/ModuleManager.h"
 #include "TerminalReport.h"
 #include "TerminationSignals.h"
-#include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
@@ -86,7 +86,11 @@ void RunConsoleInput(const FString& Input)
 }
 }
 
-FEngineLoop::FEngineLoop() = default;
+FEngineLoop::FEngineLoop()
+	: GarbageSchedule(MakeUnique<FGarbageSchedule>())
+{
+}
+
 FEngineLoop::~FEngineLoop() = default;
 
 bool FEngineLoop::PreInit(const TCHAR* CommandLine)
@@ -213,6 +217,8 @@ void FEngineLoop::HandleSignal()
 
 void FEngineLoop::Tick()
 {
+	const bool bInnerFrame = bInFrame;
+	const TGuardValue<bool> Frame(bInFrame, true);
 	HandleSignal();
 	AdvanceClock();
 	FSlateApplication& Slate = FSlateApplication::Get();
@@ -223,7 +229,10 @@ void FEngineLoop::Tick()
 		Slate.RequestFrame();
 	}
 	Slate.Tick();
-	CollectRequestedGarbage();
+	if (!bInnerFrame)
+	{
+		GarbageSchedule->EndFrame();
+	}
 	if (!bCommandsDone)
 	{
 		bCommandsDone = true;

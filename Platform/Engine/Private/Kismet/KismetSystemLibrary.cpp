@@ -1,0 +1,8 @@
+#include "Kismet/KismetSystemLibrary.h"
+
+#include "UObject/UObjectGlobals.h"
+
+void UKismetSystemLibrary::CollectGarbage()
+{
+	RequestGarbageCollection();
+}
