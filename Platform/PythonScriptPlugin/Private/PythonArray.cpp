@@ -17,13 +17,14 @@ static FScriptArrayHelper HelperOf(PyObject* Self)
 /** Adds one value at the end. */
 static bool AppendTo(const FPythonContainerType& Type, FScriptArrayHelper& Helper, PyObject* Value)
 {
-	const int32 Index = Helper.AddValue();
-	if (Type.Element->FromPython(Value, Helper.GetRawPtr(Index)))
+	// The value may be a script's and change the array while it is looked at.
+	const FScopedPropertyValue Converted(Type.ElementProperty);
+	if (!Type.Element->FromPython(Value, Converted.Get()))
 	{
-		return true;
+		return false;
 	}
-	Helper.RemoveValues(Index);
-	return false;
+	Type.ElementProperty->CopyCompleteValue(Helper.GetRawPtr(Helper.AddValue()), Converted.Get());
+	return true;
 }
 
 bool PythonContainers::FillArray(const FPythonContainerType& Type, PyObject* Value, void* Memory)
@@ -82,6 +83,13 @@ static PyObject* ArrayItem(PyObject* Self, Py_ssize_t Index)
 static int SetArrayItem(PyObject* Self, Py_ssize_t Index, PyObject* Value)
 {
 	FScriptArrayHelper Helper = HelperOf(Self);
+	const FPythonContainerType& Type = *FPythonContainer::From(Self).Type;
+	const FScopedPropertyValue Converted(Type.ElementProperty);
+	if (Value && !Type.Element->FromPython(Value, Converted.Get()))
+	{
+		return -1;
+	}
+	// Only now: the value may be a script's and change the array while it is looked at.
 	if (Index < 0 || Index >= Helper.Num())
 	{
 		PyErr_SetString(PyExc_IndexError, "Array assignment index out of range");
@@ -91,12 +99,6 @@ static int SetArrayItem(PyObject* Self, Py_ssize_t Index, PyObject* Value)
 	{
 		Helper.RemoveValues(static_cast<int32>(Index));
 		return 0;
-	}
-	const FPythonContainerType& Type = *FPythonContainer::From(Self).Type;
-	const FScopedPropertyValue Converted(Type.ElementProperty);
-	if (!Type.Element->FromPython(Value, Converted.Get()))
-	{
-		return -1;
 	}
 	Type.ElementProperty->CopyCompleteValue(Helper.GetRawPtr(static_cast<int32>(Index)), Converted.Get());
 	return 0;

@@ -47,7 +47,8 @@ FPythonRef FPythonTypeSpec::Make()
 	Spec.flags = static_cast<unsigned int>(Py_TPFLAGS_DEFAULT | Py_TPFLAGS_IMMUTABLETYPE | Flags);
 	Spec.slots = Slots.GetData();
 	FPythonRef Type = FPythonRef::Steal(PyType_FromSpec(&Spec));
-	if (Type && !FixClassOfInstances(PythonTypes::AsType(Type)))
+	const bool bDerived = Slots.ContainsByPredicate([](const PyType_Slot& Slot) { return Slot.slot == Py_tp_base; });
+	if (Type && !bDerived && !FixClassOfInstances(PythonTypes::AsType(Type)))
 	{
 		return FPythonRef();
 	}

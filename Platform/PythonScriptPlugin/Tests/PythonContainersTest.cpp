@@ -97,3 +97,14 @@ TEST(PythonContainers, AreCollections)
 				  "((unreal.Array(int), 'MutableSequence'), (unreal.Set(int), 'Set'), (unreal.Map(int, int), 'Mapping'))]")),
 		TEXT("[True, True, True]"));
 }
+
+TEST(PythonContainers, AnArrayMayChangeWhileAValueForItIsLookedAt)
+{
+	EXPECT_TRUE(RunPython(TEXT("changing = unreal.Array(unreal.PythonTestPlace)\nchanging.append((1, 1))\n"
+							   "class Changer:\n"
+							   "    def __len__(self):\n        changing.clear()\n        return 2\n"
+							   "    def __getitem__(self, index):\n        return 5\n")));
+	EXPECT_EQ(ErrorOf(TEXT("changing[0] = Changer()")), TEXT("IndexError: Array assignment index out of range"));
+	EXPECT_TRUE(RunPython(TEXT("changing.append(Changer())")));
+	EXPECT_EQ(Evaluate(TEXT("[v.to_tuple()[:2] for v in changing]")), TEXT("[(5.0, 5)]"));
+}
