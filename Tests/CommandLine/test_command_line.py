@@ -97,6 +97,20 @@ def test_the_console_can_end_the_editor(shell):
     assert run.returncode == 0
 
 
+def test_a_script_can_end_the_editor(shell):
+    script = shell.script(
+        "import unreal\n"
+        "unreal.EditorPythonScripting.set_keep_python_script_alive(True)\n"
+        "unreal.VelmoraData.launch_velmora_tool('VelmoraGallery/VelmoraGallery.json')\n"
+        "unreal.SystemLibrary.quit_editor()\n"
+        "print('still in the script')"
+    )
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}")
+    assert run.returncode == 0
+    log = shell.log_text()
+    assert log.index("still in the script") < log.index("The gallery was closed") < log.index("The editor has ended.")
+
+
 def test_commands_that_end_with_quit_need_no_script(shell):
     run = shell.start("Trial/Trial.uproject", "-ExecCmds=py print(6 * 7); quit")
     assert run.returncode == 0

@@ -31,7 +31,7 @@ def show(what):
     print(what, sum(1 for data in unreal.ObjectIterator(unreal.VelmoraData) if data.get_name().startswith("VelmoraData_")))
 
 def quit():
-    unreal.PythonScriptLibrary.execute_python_command("import os, signal; os.kill(os.getpid(), signal.SIGTERM)")
+    unreal.SystemLibrary.quit_editor()
 """
 
 VERBOSE = "-ExecCmds=Log LogGarbage Verbose"

@@ -6,3 +6,8 @@ void UKismetSystemLibrary::CollectGarbage()
 {
 	RequestGarbageCollection();
 }
+
+void UKismetSystemLibrary::QuitEditor()
+{
+	RequestEngineExit(TEXT("A script said so."));
+}

@@ -16,4 +16,8 @@ public:
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
 	static void CollectGarbage();
+
+	/** Ends the editor after this frame, as closing its main window does, but no tab can refuse. */
+	UFUNCTION(BlueprintCallable, Category = "Development|Editor")
+	static void QuitEditor();
 };
