@@ -67,7 +67,8 @@ def test_a_closed_tab_lets_the_editor_collect(shell):
         shell,
         f"unreal.VelmoraData.launch_velmora_tool({str(tool)!r})\n"
         "drop(10)\n"
-        f"Steps((1, lambda: show('open')), (0, lambda: unreal.VelmoraData.request_close({str(tool)!r})), (0.1, lambda: show('closed')), (0, quit))",
+        f"close = lambda: unreal.VelmoraData.request_close({str(tool)!r})\n"
+        "Steps((1, lambda: show('open')), (0, close), (0.1, lambda: show('closed')), (0, quit))",
     )
     assert counts(run.stdout) == {"open": 10, "closed": 0}
     assert len(collections(shell)) == 1

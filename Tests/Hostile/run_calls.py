@@ -98,7 +98,8 @@ def can(make):
 #: What Python's own syntax and library do with a value, beside calling its methods.
 OPERATIONS = {
     "str": str, "repr": repr, "bool": bool, "hash": hash, "len": len, "list": list, "int": int, "float": float, "dir": dir,
-    "copy": copy.copy, "deepcopy": copy.deepcopy, "pickle": pickle.dumps, "doc": inspect.getdoc, "reversed": lambda value: list(reversed(value)),
+    "copy": copy.copy, "deepcopy": copy.deepcopy, "pickle": pickle.dumps, "doc": inspect.getdoc,
+    "reversed": lambda value: list(reversed(value)),
     "eq": operator.eq, "lt": operator.lt, "ge": operator.ge, "add": operator.add, "iadd": operator.iadd, "sub": operator.sub,
     "mul": operator.mul, "and": operator.and_, "xor": operator.xor, "contains": operator.contains, "getitem": operator.getitem,
     "setitem": operator.setitem, "delitem": operator.delitem, "isinstance": lambda value, kind: isinstance(value, kind),
@@ -192,7 +193,8 @@ def plausible(folder):
     tool = str(folder / "KX/Kestrix/Python/VelmoraGallery/VelmoraGallery.json")
     return {
         "1": lambda: 1, "2": lambda: 2, "0.5": lambda: 0.5, "False": lambda: False, "Velmora Gallery": lambda: "Velmora Gallery",
-        "the tool": lambda: tool, "SButton": lambda: "SButton", "#Page": lambda: "#Page", "Page": lambda: "Page", "Status": lambda: "Status",
+        "the tool": lambda: tool, "SButton": lambda: "SButton", "#Page": lambda: "#Page", "Page": lambda: "Page",
+        "Status": lambda: "Status",
         "x": lambda: "x", "Visible": lambda: "Visible", "name": lambda: unreal.Name("Status"), "colour": unreal.LinearColor,
         "picture": lambda: str(folder / "picture.png"), "vector": unreal.Vector2D, "code": lambda: "6 * 7", "list": lambda: [1, 2],
         "object": unreal.VelmoraData, "class": lambda: unreal.VelmoraData, "package": lambda: unreal.find_object(None, "/Engine/Transient"),

@@ -29,10 +29,11 @@ def command(event):
 
 def describe():
     """A tool with each event."""
+    check = {"Aka": "Check", "OnCheckStateChanged": command("OnCheckStateChanged"), "Content": {"STextBlock": {"Text": "Check"}}}
     slots = [
         {"STextBlock": {"Aka": "Title", "Text": "Title", "OnTick": command("OnTick")}},
         {"SButton": {"Aka": "Go", "Text": "Go", "OnClick": command("OnClick")}},
-        {"SCheckBox": {"Aka": "Check", "OnCheckStateChanged": command("OnCheckStateChanged"), "Content": {"STextBlock": {"Text": "Check"}}}},
+        {"SCheckBox": check},
         {"SEditableTextBox": {"Aka": "Field", "OnTextChanged": command("OnTextChanged"), "OnTextCommitted": command("OnTextCommitted")}},
         {"SMultiLineEditableTextBox": {"Aka": "Notes", "Text": "notes"}},
     ]
