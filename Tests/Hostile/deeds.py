@@ -11,6 +11,7 @@ import threading
 import warnings
 
 import unreal
+from tools import AKAS
 
 Driver = unreal.EditorDriver
 
@@ -27,9 +28,6 @@ class Scene:
     @property
     def data(self):
         return unreal.PythonBPLib.get_velmora_data(self.tool)
-
-
-AKAS = ("Title", "Go", "Check", "Field", "Notes", "Panel")
 
 
 def close_own(scene):

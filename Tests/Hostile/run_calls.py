@@ -22,6 +22,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
 import values
 from progress import Progress
+from tools import AKAS, describe, write_tool
 
 CALLS_PER_FRAME = 200
 
@@ -33,13 +34,17 @@ ELEMENTS = [int, float, bool, str, unreal.Name, unreal.Text, unreal.Vector, unre
 
 
 class Call:
-    """A function with a name and how many arguments it takes. `make` gives the function and what it works on."""
+    """
+    A function with a name and how many arguments it takes. `make` gives the function and what it works on; `names` are those of its
+    parameters, where they are known.
+    """
 
-    def __init__(self, name, make, parameters, weight=1):
+    def __init__(self, name, make, parameters, weight=1, names=()):
         self.name = name
         self.make = make
         self.least, self.most = parameters
         self.weight = weight
+        self.names = names
 
     def choose_count(self, dice):
         """Mostly a number of arguments that the function takes."""
@@ -54,6 +59,13 @@ def parameters_of(function):
         return 0, 3
     needed = [parameter for parameter in parameters if parameter.default is inspect.Parameter.empty]
     return min(len(needed), 6), min(len(parameters), 6)
+
+
+def names_of(function):
+    try:
+        return list(inspect.signature(function).parameters)
+    except (TypeError, ValueError):
+        return []
 
 
 def make_container(kind, index):
@@ -80,7 +92,7 @@ def instance_makers(kind):
     if issubclass(kind, unreal._ObjectBase):
         makers = [kind, lambda: unreal.get_default_object(kind)]
         if kind is unreal.VelmoraData:
-            makers.append(lambda: unreal.PythonBPLib.get_velmora_data("VelmoraGallery/VelmoraGallery.json"))
+            makers.append(lambda: unreal.PythonBPLib.get_velmora_data("Victim.json"))
         if kind in (unreal.Class, unreal.Struct, unreal.Field, unreal.Object):
             makers.append(unreal.VelmoraData.static_class)
         return [make for make in makers if can(make)]
@@ -132,11 +144,15 @@ def members(kind, makers):
         if full in LEFT_OUT:
             continue
         least, most = parameters_of(getattr(kind, name))
+        names = names_of(getattr(kind, name))
+        # What the engine reflects lets more happen than what the module has of its own.
+        weight = 150 if type(member).__name__ in ("_Function", "_Method") else 10
         if callable(getattr(kind, name)):
-            yield Call(f"{full} of the type", lambda name=name: (getattr(kind, name), kind), (least, most), 10)
+            yield Call(f"{full} of the type", lambda name=name: (getattr(kind, name), kind), (least, most), weight, names)
         for index, make in enumerate(makers):
             if callable(getattr(kind, name)) or hasattr(type(member), "__get__"):
-                yield Call(f"{full} of {index}", lambda name=name, make=make: get(make(), name), (max(least - 1, 0), most), 10)
+                own = names[1:] if names[:1] == ["self"] else names
+                yield Call(f"{full} of {index}", lambda name=name, make=make: get(make(), name), (max(least - 1, 0), most), weight, own)
                 yield Call(f"set {full} of {index}", lambda name=name, make=make: set_of(make(), name), (1, 1))
         for method in ("__get__", "__set__", "__delete__", "__call__"):
             if hasattr(member, method):
@@ -188,25 +204,42 @@ def targets():
             yield from editor_properties(kind, makers[:1])
 
 
-def plausible(folder):
-    """Values that get a call further."""
-    tool = str(folder / "KX/Kestrix/Python/VelmoraGallery/VelmoraGallery.json")
-    return {
-        "1": lambda: 1, "2": lambda: 2, "0.5": lambda: 0.5, "False": lambda: False, "Velmora Gallery": lambda: "Velmora Gallery",
-        "the tool": lambda: tool, "SButton": lambda: "SButton", "#Page": lambda: "#Page", "Page": lambda: "Page",
-        "Status": lambda: "Status",
-        "x": lambda: "x", "Visible": lambda: "Visible", "name": lambda: unreal.Name("Status"), "colour": unreal.LinearColor,
-        "picture": lambda: str(folder / "picture.png"), "vector": unreal.Vector2D, "code": lambda: "6 * 7", "list": lambda: [1, 2],
-        "object": unreal.VelmoraData, "class": lambda: unreal.VelmoraData, "package": lambda: unreal.find_object(None, "/Engine/Transient"),
+def fitting(folder, tool):
+    """Values that get a call further, by the name of a parameter; under "" those that suit many."""
+    widgets = [f"#{aka}" for aka in AKAS] + ["SButton", "STextBlock", ""]
+    texts = {
+        "tab": ["Victim", tool], "type": widgets, "text": ["", "Go", "text"], "aka_name": AKAS, "tools_path": [tool, "Victim.json"],
+        "tools_json_path": [tool], "chord": ["Enter", "Ctrl+A", "Tab"], "path": [str(folder / "picture.png")],
+        "image_file_path": [str(folder / "picture.png")], "visibility_str": ["Visible", "Hidden"], "name": ["get_name", "x", "Python"],
+        "": ["x", "6 * 7", "Status"],
     }  # fmt: skip
+    known = {name: [(value, lambda value=value: value) for value in entries] for name, entries in texts.items()}
+    known["index"] = known["line_index"] = [("0", lambda: 0)]
+    known["color"] = [("colour", lambda: unreal.LinearColor(1, 0, 0, 1))]
+    known["override_window_size"] = [("size", lambda: unreal.Vector2D(200, 100))]
+    known[""] += [
+        ("1", lambda: 1), ("2", lambda: 2), ("0.5", lambda: 0.5), ("False", lambda: False), ("list", lambda: [1, 2]),
+        ("object", unreal.VelmoraData), ("class", lambda: unreal.VelmoraData), ("name", lambda: unreal.Name("Title")),
+        ("package", lambda: unreal.find_object(None, "/Engine/Transient")),
+    ]  # fmt: skip
+    return known
 
 
-def plan(folder, count, seed):
+def choose_arguments(dice, call, hostile, known):
+    """Each argument is one that fits, as far as such are known, or any."""
+    arguments = []
+    for index in range(call.choose_count(dice)):
+        name = call.names[index] if index < len(call.names) else ""
+        arguments.append(dice.choice(known.get(name, known[""]) if dice.random() < 0.6 else hostile))
+    return arguments
+
+
+def plan(folder, tool, count, seed):
     """(call, arguments, keywords), the arguments as names and makers: each target with each value alone, then mixtures."""
     dice = random.Random(seed)
     calls = list(targets())
     hostile = list(values.HOSTILE.items())
-    known = hostile + list(plausible(folder).items()) * 3
+    known = fitting(folder, tool)
     made = 0
     order = [(call, value) for value in hostile for call in calls]
     dice.shuffle(order)
@@ -216,21 +249,22 @@ def plan(folder, count, seed):
     weights = list(itertools.accumulate(call.weight for call in calls))
     while made < count:
         call = dice.choices(calls, cum_weights=weights)[0]
-        arguments = dice.choices(known, k=call.choose_count(dice))
-        keywords = {dice.choice(["name", "type", "value", "outer", "no such", "\ud800"]): dice.choice(known)} if dice.random() < 0.1 else {}
+        arguments = choose_arguments(dice, call, hostile, known)
+        names = [*call.names, "name", "type", "outer", "no such", "\ud800"]
+        keywords = {dice.choice(names): dice.choice(hostile)} if dice.random() < 0.1 else {}
         yield call, arguments, keywords
         made += 1
 
 
 class Runner:
-    def __init__(self, progress_file, calls):
+    def __init__(self, progress_file, tool, calls):
+        self.tool = tool
         self.progress = Progress(progress_file)
         self.calls = calls
         self.made = 0
         self.errors = {}
         self.findings = []
         self.calling = False
-        unreal.VelmoraData.launch_velmora_tool("VelmoraGallery/VelmoraGallery.json")
         # Calls end the callbacks whose handles they guess; this one's is beyond their numbers.
         for _ in range(10):
             unreal.unregister_slate_post_tick_callback(unreal.register_slate_post_tick_callback(print))
@@ -241,6 +275,8 @@ class Runner:
         if self.calling:
             return
         self.calling = True
+        # A call may have closed it.
+        unreal.VelmoraData.launch_velmora_tool(self.tool)
         try:
             for _ in range(CALLS_PER_FRAME):
                 entry = next(self.calls, None)
@@ -285,12 +321,14 @@ class Runner:
 
 
 def main(progress_file, count, seed, last=""):
-    calls = plan(pathlib.Path.cwd(), int(count), int(seed))
+    tool = write_tool("Victim", describe(lambda event: "pass"))
+    unreal.VelmoraData.launch_velmora_tool(tool)
+    calls = plan(pathlib.Path.cwd(), tool, int(count), int(seed))
     if last:
         deadly = Call("string_at", lambda: (ctypes.string_at, None), (1, 1))
         calls = itertools.chain(calls, [(deadly, [("zero", lambda: 0)], {})])
     unreal.EditorPythonScripting.set_keep_python_script_alive(True)
-    Runner(progress_file, calls)
+    Runner(progress_file, tool, calls)
 
 
 main(*sys.argv[1:])

@@ -4,7 +4,6 @@ PROGRESS is a file that names each deed before it is done, so that it tells of t
 found. After each deed another tool must work as before. With `quit` the only deed is to end the editor.
 """
 
-import json
 import pathlib
 import sys
 import warnings
@@ -16,35 +15,14 @@ sys.path.insert(0, str(pathlib.Path(__file__).parent))
 
 import deeds
 from progress import Progress
+from tools import FOLDER, describe, write_tool
 
 Driver = unreal.EditorDriver
-FOLDER = pathlib.Path.cwd() / "Tools"
-
 COMMAND = "import deeds; deeds.stage.fire('{}')"
 
 
 def command(event):
     return COMMAND.format(event)
-
-
-def describe():
-    """A tool with each event."""
-    check = {"Aka": "Check", "OnCheckStateChanged": command("OnCheckStateChanged"), "Content": {"STextBlock": {"Text": "Check"}}}
-    slots = [
-        {"STextBlock": {"Aka": "Title", "Text": "Title", "OnTick": command("OnTick")}},
-        {"SButton": {"Aka": "Go", "Text": "Go", "OnClick": command("OnClick")}},
-        {"SCheckBox": check},
-        {"SEditableTextBox": {"Aka": "Field", "OnTextChanged": command("OnTextChanged"), "OnTextCommitted": command("OnTextCommitted")}},
-        {"SMultiLineEditableTextBox": {"Aka": "Notes", "Text": "notes"}},
-    ]
-    return {"SVerticalBox": {"Aka": "Panel", "Slots": [{"AutoHeight": True, **slot} for slot in slots]}}
-
-
-def write_tool(name, root, **keys):
-    file = FOLDER / f"{name}.json"
-    file.parent.mkdir(exist_ok=True)
-    file.write_text(json.dumps({"TabLabel": name, "InitPyCmd": "", "Root": root, **keys}), encoding="utf-8")
-    return str(file)
 
 
 def click(tool):
@@ -88,8 +66,8 @@ class Stage:
         self.clicks = 0
         self.findings = []
         self.healthy = write_tool("Healthy", {"SButton": {"Aka": "Go", "Text": "Go", "OnClick": "import deeds; deeds.stage.count()"}})
-        self.other = write_tool("Other", describe())
-        self.new = write_tool("New", describe())
+        self.other = write_tool("Other", describe(command))
+        self.new = write_tool("New", describe(command))
 
     def count(self):
         self.clicks += 1
@@ -105,7 +83,7 @@ class Stage:
     def perform(self, number, deed):
         """Does the deed, then looks whether the editor is well."""
         self.progress.name(f"{deed.__name__} from {self.event}")
-        self.tool = write_tool(f"Stage{number}", describe(), InitPyCmd=command("InitPyCmd"), OnClosePyCmd=command("OnClosePyCmd"))
+        self.tool = write_tool(f"Stage{number}", describe(command), InitPyCmd=command("InitPyCmd"), OnClosePyCmd=command("OnClosePyCmd"))
         unreal.VelmoraData.launch_velmora_tool(self.other)
         before = self.done
         if self.event == "InitPyCmd":
