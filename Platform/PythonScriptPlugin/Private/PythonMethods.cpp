@@ -44,7 +44,7 @@ static PyObject* CallMember(PyObject* Self, PyObject* const* Arguments, size_t C
 		return nullptr;
 	}
 	// A type that a script derived from several of the engine's is each of them to Python; its object is of one class.
-	return Target->IsA(Method.Function->GetFunction()->GetOwnerClass())
+	return Py_TYPE(Arguments[0]) == Method.Owner || Target->IsA(Method.Function->GetFunction()->GetOwnerClass())
 		? Method.Function->Call(Target, Arguments + 1, Count - 1, Keywords)
 		: RaiseForeign(Method);
 }

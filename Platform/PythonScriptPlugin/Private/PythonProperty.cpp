@@ -153,6 +153,7 @@ struct FPythonAttribute
 	TUniquePtr<FPythonProperty> Property;
 	FPythonRef Doc;
 	const UStruct* Owner;
+	bool bOfObject;
 	/** That of the owner. It outlives the attribute, which stands in its dictionary. */
 	PyTypeObject* OwnerType;
 
@@ -165,7 +166,12 @@ struct FPythonAttribute
 		{
 			return nullptr;
 		}
-		return Owner->IsA<UClass>() ? ObjectOf(Instance) : StructOf(Instance);
+		// No script can make an instance of the owner's own type that is something else. Of derived types it can.
+		if (Py_TYPE(Instance) == OwnerType)
+		{
+			return bOfObject ? static_cast<void*>(PythonObjects::FromWrapper(Instance)) : PythonStruct::MemoryOf(Instance);
+		}
+		return bOfObject ? ObjectOf(Instance) : StructOf(Instance);
 	}
 
 private:
@@ -267,7 +273,8 @@ bool PythonProperty::AddAttributes(PyTypeObject* Type, const UStruct* Struct)
 		TUniquePtr<FPythonProperty> Property = MakeUnique<FPythonProperty>(*It);
 		const FPythonRef Name = PythonStrings::Intern(Property->GetName());
 		const FPythonRef Doc = PythonStrings::ToPython(DescribeProperty(*Property));
-		const FPythonRef Attribute = PythonTypes::New<FPythonAttribute>(AttributeType(), MoveTemp(Property), Doc, Struct, Type);
+		const FPythonRef Attribute =
+			PythonTypes::New<FPythonAttribute>(AttributeType(), MoveTemp(Property), Doc, Struct, Struct->IsA<UClass>(), Type);
 		if (!Attribute || !PythonTypes::AddAttribute(Type, Name.Get(), Attribute.Get()))
 		{
 			return false;
