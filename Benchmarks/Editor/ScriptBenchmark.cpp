@@ -33,7 +33,7 @@ public:
 		BenchmarkedEditor::OpenForm(Form);
 		const FGeometry Button = BenchmarkedEditor::FindInForm(Form, TEXT("SButton"))->GetTickSpaceGeometry();
 		Place = Button.GetAbsolutePositionAtCoordinates(FVector2D(0.5, 0.5));
-		Application.GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt(Place.X), FMath::RoundToInt(Place.Y));
+		Application.GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt32(Place.X), FMath::RoundToInt32(Place.Y));
 		Application.OnMouseMove();
 		BenchmarkedEditor::PassFrame();
 	}

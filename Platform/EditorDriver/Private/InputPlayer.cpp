@@ -62,7 +62,7 @@ void InputPlayer::Run(double Seconds)
 
 void InputPlayer::MoveMouse(const FVector2D& DesktopPlace)
 {
-	App().GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt(DesktopPlace.X), FMath::RoundToInt(DesktopPlace.Y));
+	App().GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt32(DesktopPlace.X), FMath::RoundToInt32(DesktopPlace.Y));
 	App().OnMouseMove();
 	Run(0.0);
 }

@@ -57,7 +57,7 @@ void FSlateTestWindow::Wait(double Seconds)
 void FSlateTestWindow::MoveMouse(const FVector2D& Place)
 {
 	const FVector2D OnDesktop = Place + Window->GetPositionInScreen();
-	App().GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt(OnDesktop.X), FMath::RoundToInt(OnDesktop.Y));
+	App().GetPlatformApplication()->Cursor->SetPosition(FMath::RoundToInt32(OnDesktop.X), FMath::RoundToInt32(OnDesktop.Y));
 	App().OnMouseMove();
 	Frame();
 }

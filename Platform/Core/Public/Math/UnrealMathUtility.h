@@ -7,15 +7,24 @@
 #include <type_traits>
 
 #define PI (3.1415926535897932f)
-#define UE_PI (3.1415926535897932f)
-#define UE_DOUBLE_PI (3.141592653589793238462643383279502884197169399)
+#define DOUBLE_PI (3.141592653589793238462643383279502884197169399)
 #define SMALL_NUMBER (1.e-8f)
 #define KINDA_SMALL_NUMBER (1.e-4f)
 #define BIG_NUMBER (3.4e+38f)
 
-/** The engine's scalar mathematics. Rounding to int32 wants a value in its range; see Math/NumericNarrowing.h for others. */
+/**
+ * The engine's scalar mathematics. Functions of several values take one type; only float and double mix, which gives double.
+ * Rounding wants a value in the range of its result; see Math/NumericNarrowing.h for others.
+ */
 struct FMath
 {
+private:
+	/** A type if all are floating-point types, but not one and the same. */
+	template <typename T, typename... OtherTypes>
+	using TMixedFloats = std::enable_if_t<std::is_floating_point_v<T> && (std::is_floating_point_v<OtherTypes> && ...) &&
+		!(std::is_same_v<T, OtherTypes> && ...)>;
+
+public:
 	template <typename T>
 	static constexpr T Abs(const T A)
 	{
@@ -28,18 +37,28 @@ struct FMath
 		return A > T(0) ? T(1) : (A < T(0) ? T(-1) : T(0));
 	}
 
-	template <typename T, typename U>
-	static constexpr std::common_type_t<T, U> Min(const T A, const U B)
+	template <typename T>
+	static constexpr T Min(const T A, const T B)
 	{
-		using FCommon = std::common_type_t<T, U>;
-		return FCommon(A) <= FCommon(B) ? FCommon(A) : FCommon(B);
+		return A <= B ? A : B;
 	}
 
-	template <typename T, typename U>
-	static constexpr std::common_type_t<T, U> Max(const T A, const U B)
+	template <typename T, typename U, typename = TMixedFloats<T, U>>
+	static constexpr double Min(const T A, const U B)
 	{
-		using FCommon = std::common_type_t<T, U>;
-		return FCommon(B) <= FCommon(A) ? FCommon(A) : FCommon(B);
+		return Min(double(A), double(B));
+	}
+
+	template <typename T>
+	static constexpr T Max(const T A, const T B)
+	{
+		return B <= A ? A : B;
+	}
+
+	template <typename T, typename U, typename = TMixedFloats<T, U>>
+	static constexpr double Max(const T A, const U B)
+	{
+		return Max(double(A), double(B));
 	}
 
 	template <typename T>
@@ -55,12 +74,16 @@ struct FMath
 	}
 
 	/** A value that is not a number stays one. */
-	template <typename T, typename U, typename V>
-	static constexpr std::common_type_t<T, U, V> Clamp(const T X, const U MinValue, const V MaxValue)
+	template <typename T>
+	static constexpr T Clamp(const T X, const T MinValue, const T MaxValue)
 	{
-		using FCommon = std::common_type_t<T, U, V>;
-		return FCommon(X) < FCommon(MinValue) ? FCommon(MinValue)
-											  : (FCommon(MaxValue) < FCommon(X) ? FCommon(MaxValue) : FCommon(X));
+		return X < MinValue ? MinValue : (MaxValue < X ? MaxValue : X);
+	}
+
+	template <typename T, typename U, typename V, typename = TMixedFloats<T, U, V>>
+	static constexpr double Clamp(const T X, const U MinValue, const V MaxValue)
+	{
+		return Clamp(double(X), double(MinValue), double(MaxValue));
 	}
 
 	template <typename T>
@@ -97,24 +120,31 @@ struct FMath
 	static float TruncToFloat(float F) { return std::trunc(F); }
 	static double TruncToDouble(double F) { return std::trunc(F); }
 	static int32 TruncToInt(float F) { return int32(F); }
-	static int32 TruncToInt(double F) { return int32(F); }
+	static int64 TruncToInt(double F) { return TruncToInt64(F); }
+	static int32 TruncToInt32(double F) { return int32(F); }
 	static int64 TruncToInt64(double F) { return int64(F); }
 
 	static float FloorToFloat(float F) { return std::floor(F); }
 	static double FloorToDouble(double F) { return std::floor(F); }
 	static int32 FloorToInt(float F) { return int32(std::floor(F)); }
-	static int32 FloorToInt(double F) { return int32(std::floor(F)); }
+	static int64 FloorToInt(double F) { return FloorToInt64(F); }
+	static int32 FloorToInt32(double F) { return int32(std::floor(F)); }
+	static int64 FloorToInt64(double F) { return int64(std::floor(F)); }
 
 	static float CeilToFloat(float F) { return std::ceil(F); }
 	static double CeilToDouble(double F) { return std::ceil(F); }
 	static int32 CeilToInt(float F) { return int32(std::ceil(F)); }
-	static int32 CeilToInt(double F) { return int32(std::ceil(F)); }
+	static int64 CeilToInt(double F) { return CeilToInt64(F); }
+	static int32 CeilToInt32(double F) { return int32(std::ceil(F)); }
+	static int64 CeilToInt64(double F) { return int64(std::ceil(F)); }
 
 	/** Halves go up: -0.5 gives 0, 0.5 gives 1. */
 	static float RoundToFloat(float F) { return float(std::floor(double(F) + 0.5)); }
 	static double RoundToDouble(double F) { return RoundHalfUp(F); }
 	static int32 RoundToInt(float F) { return int32(std::floor(double(F) + 0.5)); }
-	static int32 RoundToInt(double F) { return int32(RoundHalfUp(F)); }
+	static int64 RoundToInt(double F) { return RoundToInt64(F); }
+	static int32 RoundToInt32(double F) { return int32(RoundHalfUp(F)); }
+	static int64 RoundToInt64(double F) { return int64(RoundHalfUp(F)); }
 
 	/** Halves go away from zero: -0.5 gives -1, 0.5 gives 1. */
 	static float RoundHalfFromZero(float F) { return std::round(F); }
@@ -156,13 +186,13 @@ struct FMath
 	template <typename T>
 	static constexpr auto DegreesToRadians(const T Degrees)
 	{
-		return Degrees * (T(UE_DOUBLE_PI) / T(180));
+		return Degrees * (T(DOUBLE_PI) / T(180));
 	}
 
 	template <typename T>
 	static constexpr auto RadiansToDegrees(const T Radians)
 	{
-		return Radians * (T(180) / T(UE_DOUBLE_PI));
+		return Radians * (T(180) / T(DOUBLE_PI));
 	}
 
 	static bool IsFinite(float F) { return std::isfinite(F); }

@@ -108,8 +108,8 @@ struct TVector2
 	constexpr TVector2 GetAbs() const { return TVector2(FMath::Abs(X), FMath::Abs(Y)); }
 
 	/** Rounded to whole numbers. */
-	FIntPoint IntPoint() const { return FIntPoint(FMath::RoundToInt(X), FMath::RoundToInt(Y)); }
-	TVector2 RoundToVector() const { return TVector2(T(FMath::RoundToInt(X)), T(FMath::RoundToInt(Y))); }
+	FIntPoint IntPoint() const { return FIntPoint(FMath::RoundToInt32(X), FMath::RoundToInt32(Y)); }
+	TVector2 RoundToVector() const { return TVector2(T(FMath::RoundToDouble(X)), T(FMath::RoundToDouble(Y))); }
 
 	static constexpr TVector2 Max(const TVector2& A, const TVector2& B)
 	{

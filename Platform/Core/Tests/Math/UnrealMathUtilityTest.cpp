@@ -33,12 +33,82 @@ TEST(Math, FloorCeilAndTruncDifferBelowZero)
 	EXPECT_EQ(FMath::CeilToInt(1.1f), 2);
 }
 
-TEST(Math, MinMaxAndClampMixTypes)
+TEST(Math, MinMaxAndClampOfOneType)
 {
-	EXPECT_EQ(FMath::Max(1, 2.5f), 2.5f);
-	EXPECT_EQ(FMath::Min(1, 2.5), 1.0);
+	EXPECT_EQ(FMath::Max(1, 2), 2);
+	EXPECT_EQ(FMath::Min(1.5f, 2.5f), 1.5f);
 	EXPECT_EQ(FMath::Clamp(5, 0, 3), 3);
 	EXPECT_EQ(FMath::Clamp(-5.0, 0.0, 3.0), 0.0);
+	EXPECT_EQ(FMath::Max<int64>(1, int64(1) << 40), int64(1) << 40);
+}
+
+namespace
+{
+template <typename... Types>
+constexpr auto CanMax(int) -> decltype(FMath::Max(std::declval<Types>()...), true)
+{
+	return true;
+}
+template <typename... Types>
+constexpr bool CanMax(...)
+{
+	return false;
+}
+
+template <typename... Types>
+constexpr auto CanMin(int) -> decltype(FMath::Min(std::declval<Types>()...), true)
+{
+	return true;
+}
+template <typename... Types>
+constexpr bool CanMin(...)
+{
+	return false;
+}
+
+template <typename... Types>
+constexpr auto CanClamp(int) -> decltype(FMath::Clamp(std::declval<Types>()...), true)
+{
+	return true;
+}
+template <typename... Types>
+constexpr bool CanClamp(...)
+{
+	return false;
+}
+}
+
+// FMath::Max, Min, Clamp take one type (and float with double).
+TEST(Math, MinMaxAndClampRefuseMixedTypes)
+{
+	static_assert(CanMax<int32, int32>(0) && CanMin<double, double>(0) && CanClamp<float, float, float>(0));
+	static_assert(!CanMax<int32, float>(0) && !CanMax<double, int32>(0) && !CanMax<int32, int64>(0) && !CanMax<uint32, int32>(0));
+	static_assert(!CanMin<int32, float>(0) && !CanMin<double, int32>(0) && !CanMin<uint8, int32>(0));
+	static_assert(!CanClamp<int32, int32, float>(0) && !CanClamp<double, int32, int32>(0) && !CanClamp<float, double, int32>(0));
+
+	static_assert(std::is_same_v<decltype(FMath::Max(1.0f, 2.0)), double>);
+	static_assert(std::is_same_v<decltype(FMath::Min(1.0, 2.0f)), double>);
+	static_assert(std::is_same_v<decltype(FMath::Clamp(1.0f, 0.0, 2.0f)), double>);
+	EXPECT_EQ(FMath::Max(1.0f, 2.5), 2.5);
+	EXPECT_EQ(FMath::Min(1.0, 2.5f), 1.0);
+	EXPECT_EQ(FMath::Clamp(5.0f, 0.0, 3.0f), 3.0);
+}
+
+// RoundToInt, FloorToInt, CeilToInt, TruncToInt of a double give int64.
+TEST(Math, RoundingADoubleGives64Bits)
+{
+	static_assert(
+		std::is_same_v<decltype(FMath::RoundToInt(1.0)), int64> && std::is_same_v<decltype(FMath::FloorToInt(1.0)), int64>);
+	static_assert(
+		std::is_same_v<decltype(FMath::CeilToInt(1.0)), int64> && std::is_same_v<decltype(FMath::TruncToInt(1.0)), int64>);
+	static_assert(
+		std::is_same_v<decltype(FMath::RoundToInt(1.0f)), int32> && std::is_same_v<decltype(FMath::FloorToInt(1.0f)), int32>);
+	static_assert(
+		std::is_same_v<decltype(FMath::CeilToInt(1.0f)), int32> && std::is_same_v<decltype(FMath::TruncToInt(1.0f)), int32>);
+	EXPECT_EQ(FMath::RoundToInt(1e12 + 0.5), int64(1000000000001));
+	EXPECT_EQ(FMath::FloorToInt(-1e12 - 0.5), int64(-1000000000001));
+	EXPECT_EQ(FMath::CeilToInt(1e12 + 0.25), int64(1000000000001));
+	EXPECT_EQ(FMath::TruncToInt(-1e12 - 0.5), int64(-1000000000000));
 }
 
 TEST(Math, FmodOfZeroIsNoError)

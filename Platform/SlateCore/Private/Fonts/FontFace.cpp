@@ -112,10 +112,10 @@ FGlyphImage FSlateFontFace::DrawGlyph(uint32 GlyphIndex, int32 SubPosition, int3
 
 	// One pixel more on each side for what hinting and smoothing add.
 	const int32 Border = OutlineWidth + 1;
-	Image.Left = FMath::FloorToInt(Extents.x_bearing) - Border;
-	Image.Top = FMath::FloorToInt(Extents.y_bearing) - Border;
-	Image.Width = FMath::Min(FMath::CeilToInt(Extents.x_bearing + Extents.width + Offset) + Border - Image.Left, MaxSide);
-	Image.Height = FMath::Min(FMath::CeilToInt(Extents.y_bearing + Extents.height) + Border - Image.Top, MaxSide);
+	Image.Left = FMath::FloorToInt32(Extents.x_bearing) - Border;
+	Image.Top = FMath::FloorToInt32(Extents.y_bearing) - Border;
+	Image.Width = FMath::Min(FMath::CeilToInt32(Extents.x_bearing + Extents.width + Offset) + Border - Image.Left, MaxSide);
+	Image.Height = FMath::Min(FMath::CeilToInt32(Extents.y_bearing + Extents.height) + Border - Image.Top, MaxSide);
 
 	Image.Pixels.AddZeroed(Image.Width * Image.Height);
 	cairo_surface_t* Surface = cairo_image_surface_create_for_data(reinterpret_cast<uint8*>(Image.Pixels.GetData()),

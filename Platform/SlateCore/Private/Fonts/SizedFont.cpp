@@ -65,8 +65,8 @@ FSlateSizedFont::FSlateSizedFont(FSlateFontSystem& FontSystem, const FSlateFontI
 	Analysis.language = pango_context_get_language(FontSystem.GetContext());
 
 	PangoFontMetrics* Metrics = pango_font_get_metrics(Font, Analysis.language);
-	Ascent = FMath::RoundToInt(double(pango_font_metrics_get_ascent(Metrics)) / PANGO_SCALE);
-	Descent = FMath::RoundToInt(double(pango_font_metrics_get_descent(Metrics)) / PANGO_SCALE);
+	Ascent = FMath::RoundToInt32(double(pango_font_metrics_get_ascent(Metrics)) / PANGO_SCALE);
+	Descent = FMath::RoundToInt32(double(pango_font_metrics_get_descent(Metrics)) / PANGO_SCALE);
 	pango_font_metrics_unref(Metrics);
 }
 

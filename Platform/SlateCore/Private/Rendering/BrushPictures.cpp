@@ -45,7 +45,7 @@ void DrawPart(cairo_t* Cairo, cairo_surface_t* Source, const FThreeParts& X, con
 
 	// The part by itself, so that its neighbours do not bleed into it where it is stretched.
 	cairo_surface_t* Part = cairo_image_surface_create(
-		CAIRO_FORMAT_ARGB32, FMath::Max(FMath::RoundToInt(FromSize.X), 1), FMath::Max(FMath::RoundToInt(FromSize.Y), 1));
+		CAIRO_FORMAT_ARGB32, FMath::Max(FMath::RoundToInt32(FromSize.X), 1), FMath::Max(FMath::RoundToInt32(FromSize.Y), 1));
 	cairo_t* PartCairo = cairo_create(Part);
 	cairo_set_source_surface(PartCairo, Source, -From.X, -From.Y);
 	cairo_paint(PartCairo);
@@ -67,7 +67,7 @@ void DrawNineParts(cairo_t* Cairo, const ISlateTexture& Texture, const FSlateBru
 {
 	// The picture at the size of its corners on the screen; a drawing is sharp there.
 	const FVector2D Natural = Texture.GetNaturalSize() * double(Scale);
-	const FIntPoint SourceSize(FMath::Max(FMath::RoundToInt(Natural.X), 1), FMath::Max(FMath::RoundToInt(Natural.Y), 1));
+	const FIntPoint SourceSize(FMath::Max(FMath::RoundToInt32(Natural.X), 1), FMath::Max(FMath::RoundToInt32(Natural.Y), 1));
 	cairo_surface_t* Source = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, SourceSize.X, SourceSize.Y);
 	cairo_t* SourceCairo = cairo_create(Source);
 	Texture.Draw(SourceCairo, FVector2D(SourceSize));
@@ -95,7 +95,7 @@ void DrawTiles(cairo_t* Cairo, const ISlateTexture& Texture, const FSlateBrush& 
 	const double Width = Tiling == ESlateBrushTileType::Vertical ? Size.X : Brush.GetImageSize().X * double(Scale);
 	const double Height = Tiling == ESlateBrushTileType::Horizontal ? Size.Y : Brush.GetImageSize().Y * double(Scale);
 	const FIntPoint TileSize(
-		FMath::Clamp(FMath::RoundToInt(Width), 1, Size.X), FMath::Clamp(FMath::RoundToInt(Height), 1, Size.Y));
+		FMath::Clamp(FMath::RoundToInt32(Width), 1, Size.X), FMath::Clamp(FMath::RoundToInt32(Height), 1, Size.Y));
 	cairo_surface_t* Tile = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, TileSize.X, TileSize.Y);
 	cairo_t* TileCairo = cairo_create(Tile);
 	Texture.Draw(TileCairo, FVector2D(FMath::Max(Width, 1.0), FMath::Max(Height, 1.0)));

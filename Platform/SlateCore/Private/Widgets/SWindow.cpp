@@ -106,7 +106,7 @@ void SWindow::MoveWindowTo(FVector2D NewPosition)
 	ScreenPosition = NewPosition;
 	if (NativeWindow.IsValid())
 	{
-		NativeWindow->MoveWindowTo(FMath::RoundToInt(NewPosition.X), FMath::RoundToInt(NewPosition.Y));
+		NativeWindow->MoveWindowTo(FMath::RoundToInt32(NewPosition.X), FMath::RoundToInt32(NewPosition.Y));
 	}
 }
 
@@ -115,8 +115,8 @@ void SWindow::Resize(FVector2D NewClientSize)
 	const FVector2D NewSize = LimitSize(NewClientSize);
 	if (NativeWindow.IsValid())
 	{
-		NativeWindow->ReshapeWindow(FMath::RoundToInt(ScreenPosition.X), FMath::RoundToInt(ScreenPosition.Y),
-			FMath::RoundToInt(NewSize.X), FMath::RoundToInt(NewSize.Y));
+		NativeWindow->ReshapeWindow(FMath::RoundToInt32(ScreenPosition.X), FMath::RoundToInt32(ScreenPosition.Y),
+			FMath::RoundToInt32(NewSize.X), FMath::RoundToInt32(NewSize.Y));
 	}
 	SetCachedSize(NewSize);
 }
@@ -131,7 +131,7 @@ void SWindow::SetCachedSize(FVector2D InSize)
 	Size = NewSize;
 	bSizeChanged = true;
 	FSlateApplicationBase::Get().GetRenderer()->RequestResize(
-		this, FIntPoint(FMath::RoundToInt(Size.X), FMath::RoundToInt(Size.Y)));
+		this, FIntPoint(FMath::RoundToInt32(Size.X), FMath::RoundToInt32(Size.Y)));
 	DamageAll();
 }
 

@@ -54,7 +54,7 @@ FTextCaret SEditableTextBase::GetCaret(ETextLocation Location) const
 
 int32 SEditableTextBase::GetRowsPerPage() const
 {
-	return FMath::Max(FMath::FloorToInt(ViewSize.Y / GetRowHeight()), 1);
+	return FMath::Max(FMath::FloorToInt32(ViewSize.Y / GetRowHeight()), 1);
 }
 
 void SEditableTextBase::GoTo(const FTextLocation& NewLocation)

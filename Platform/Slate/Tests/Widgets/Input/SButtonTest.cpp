@@ -109,8 +109,8 @@ TEST(SButton, HasOtherPixelsNormalHoveredPressedAndDisabled)
 	FCountingButton Counting;
 	FSlateTestWindow Window(Counting.Make());
 	const FVector2D Middle = Window.MiddleOf(*Counting.Button);
-	const int32 X = FMath::RoundToInt(Counting.Button->GetPaintSpaceGeometry().GetAbsolutePosition().X) + 6;
-	const int32 Y = FMath::RoundToInt(Middle.Y);
+	const int32 X = FMath::RoundToInt32(Counting.Button->GetPaintSpaceGeometry().GetAbsolutePosition().X) + 6;
+	const int32 Y = FMath::RoundToInt32(Middle.Y);
 
 	const FColor Normal = Window.GetPixel(X, Y);
 	Window.MoveMouse(Middle);
