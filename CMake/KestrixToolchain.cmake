@@ -30,6 +30,11 @@ if(KESTRIX_SANITIZERS)
 	link_libraries($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:$<TARGET_OBJECTS:LeakIgnores>>)
 endif()
 
+# What default constructors leave unset gets values that show up, where a build is made to find faults.
+if(KESTRIX_SANITIZERS OR CMAKE_BUILD_TYPE STREQUAL "Debug")
+	add_compile_definitions(POISON_UNSET_NUMBERS=1)
+endif()
+
 # The libraries of several builds of a plugin stand side by side in Binaries/Linux; each build knows its own by this suffix.
 set(KESTRIX_BUILD_SUFFIX "")
 if(KESTRIX_SANITIZERS)

@@ -52,7 +52,7 @@ private:
 	benchmark::State& State;
 	FSlateApplication& Application = FSlateApplication::Get();
 	const FString Form = BenchmarkedEditor::GetForm(NumLeaves);
-	FVector2D Place;
+	FVector2D Place = FVector2D::ZeroVector;
 };
 
 /** From the window system's events to the end of the Python handler. */

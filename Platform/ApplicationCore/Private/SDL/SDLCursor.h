@@ -20,7 +20,7 @@ public:
 	void NotePosition(const FVector2D& InPosition) { Position = InPosition; }
 
 private:
-	FVector2D Position;
+	FVector2D Position = FVector2D::ZeroVector;
 	EMouseCursor::Type Type = EMouseCursor::Default;
 	bool bShown = true;
 	SDL_Cursor* Shapes[EMouseCursor::TotalCursorCount] = {};

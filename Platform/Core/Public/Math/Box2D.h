@@ -6,16 +6,21 @@
 
 namespace UE::Math
 {
-/** An axis-aligned rectangle, or none while bIsValid is false. */
+/** An axis-aligned rectangle, or none while bIsValid is false. The default constructor leaves all of it unset. */
 template <typename T>
 struct TBox2
 {
 	TVector2<T> Min;
 	TVector2<T> Max;
-	bool bIsValid = false;
+	bool bIsValid;
 
-	constexpr TBox2() = default;
-	constexpr explicit TBox2(EForceInit) {}
+	TBox2() { LeaveUnset(bIsValid); }
+	constexpr explicit TBox2(EForceInit)
+		: Min(ForceInit)
+		, Max(ForceInit)
+		, bIsValid(false)
+	{
+	}
 
 	constexpr TBox2(const TVector2<T>& InMin, const TVector2<T>& InMax)
 		: Min(InMin)

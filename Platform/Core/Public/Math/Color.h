@@ -2,6 +2,7 @@
 
 #include "CoreTypes.h"
 #include "Math/UnrealMathUtility.h"
+#include "Math/UnsetNumbers.h"
 #include "Templates/TypeHash.h"
 
 class FString;
@@ -13,10 +14,10 @@ struct FColor;
  */
 struct CORE_API FLinearColor
 {
-	float R = 0.0f;
-	float G = 0.0f;
-	float B = 0.0f;
-	float A = 0.0f;
+	float R;
+	float G;
+	float B;
+	float A;
 
 	static const FLinearColor White;
 	static const FLinearColor Gray;
@@ -27,8 +28,13 @@ struct CORE_API FLinearColor
 	static const FLinearColor Blue;
 	static const FLinearColor Yellow;
 
-	constexpr FLinearColor() = default;
-	constexpr explicit FLinearColor(EForceInit) {}
+	/** Leaves the channels unset. */
+	FLinearColor() { UE::Math::LeaveUnset(R, G, B, A); }
+
+	constexpr explicit FLinearColor(EForceInit)
+		: FLinearColor(0.0f, 0.0f, 0.0f, 0.0f)
+	{
+	}
 
 	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f)
 		: R(InR)
@@ -110,13 +116,11 @@ struct CORE_API FColor
 	static const FColor Silver;
 	static const FColor Emerald;
 
-	constexpr FColor()
-		: FColor(0, 0, 0, 0)
-	{
-	}
+	/** Leaves the channels unset. */
+	FColor() { UE::Math::LeaveUnset(Bits); }
 
 	constexpr explicit FColor(EForceInit)
-		: FColor()
+		: FColor(0, 0, 0, 0)
 	{
 	}
 

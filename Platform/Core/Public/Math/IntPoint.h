@@ -3,18 +3,19 @@
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
 #include "Math/UnrealMathUtility.h"
+#include "Math/UnsetNumbers.h"
 #include "Templates/TypeHash.h"
 
-/** A point or size in whole units, pixels for instance. */
+/** A point or size in whole units, pixels for instance. The default constructor leaves it unset. */
 struct FIntPoint
 {
-	int32 X = 0;
-	int32 Y = 0;
+	int32 X;
+	int32 Y;
 
 	static const FIntPoint ZeroValue;
 	static const FIntPoint NoneValue;
 
-	constexpr FIntPoint() = default;
+	FIntPoint() { UE::Math::LeaveUnset(X, Y); }
 
 	constexpr FIntPoint(int32 InX, int32 InY)
 		: X(InX)
@@ -27,7 +28,10 @@ struct FIntPoint
 	{
 	}
 
-	constexpr explicit FIntPoint(EForceInit) {}
+	constexpr explicit FIntPoint(EForceInit)
+		: FIntPoint(0, 0)
+	{
+	}
 
 	constexpr bool operator==(const FIntPoint& Other) const { return X == Other.X && Y == Other.Y; }
 	constexpr bool operator!=(const FIntPoint& Other) const { return !(*this == Other); }

@@ -9,7 +9,11 @@ struct FIntRect
 	FIntPoint Min;
 	FIntPoint Max;
 
-	constexpr FIntRect() = default;
+	constexpr FIntRect()
+		: Min(ForceInit)
+		, Max(ForceInit)
+	{
+	}
 	constexpr FIntRect(int32 X0, int32 Y0, int32 X1, int32 Y1)
 		: Min(X0, Y0)
 		, Max(X1, Y1)

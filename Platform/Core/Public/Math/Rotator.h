@@ -4,6 +4,7 @@
 #include "Containers/UnrealString.h"
 #include "Math/MathFwd.h"
 #include "Math/UnrealMathUtility.h"
+#include "Math/UnsetNumbers.h"
 
 namespace UE::Math
 {
@@ -11,13 +12,14 @@ namespace UE::Math
 template <typename T>
 struct TRotator
 {
-	T Pitch = T(0);
-	T Yaw = T(0);
-	T Roll = T(0);
+	T Pitch;
+	T Yaw;
+	T Roll;
 
 	static const TRotator ZeroRotator;
 
-	constexpr TRotator() = default;
+	/** Leaves the angles unset. */
+	TRotator() { LeaveUnset(Pitch, Yaw, Roll); }
 
 	constexpr TRotator(T InPitch, T InYaw, T InRoll)
 		: Pitch(InPitch)
@@ -26,7 +28,10 @@ struct TRotator
 	{
 	}
 
-	constexpr explicit TRotator(EForceInit) {}
+	constexpr explicit TRotator(EForceInit)
+		: TRotator(T(0), T(0), T(0))
+	{
+	}
 
 	constexpr TRotator operator+(const TRotator& R) const { return TRotator(Pitch + R.Pitch, Yaw + R.Yaw, Roll + R.Roll); }
 	constexpr TRotator operator-(const TRotator& R) const { return TRotator(Pitch - R.Pitch, Yaw - R.Yaw, Roll - R.Roll); }

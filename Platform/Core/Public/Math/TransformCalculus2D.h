@@ -180,25 +180,25 @@ public:
 	{
 	}
 
-	explicit FTransform2D(float UniformScale, const FVector2D& InTranslation = FVector2D())
+	explicit FTransform2D(float UniformScale, const FVector2D& InTranslation = FVector2D::ZeroVector)
 		: Matrix(UniformScale)
 		, Translation(InTranslation)
 	{
 	}
 
-	explicit FTransform2D(const FScale2D& Scale, const FVector2D& InTranslation = FVector2D())
+	explicit FTransform2D(const FScale2D& Scale, const FVector2D& InTranslation = FVector2D::ZeroVector)
 		: Matrix(Scale)
 		, Translation(InTranslation)
 	{
 	}
 
-	explicit FTransform2D(const FQuat2D& Rotation, const FVector2D& InTranslation = FVector2D())
+	explicit FTransform2D(const FQuat2D& Rotation, const FVector2D& InTranslation = FVector2D::ZeroVector)
 		: Matrix(Rotation)
 		, Translation(InTranslation)
 	{
 	}
 
-	explicit FTransform2D(const FMatrix2x2& InMatrix, const FVector2D& InTranslation = FVector2D())
+	explicit FTransform2D(const FMatrix2x2& InMatrix, const FVector2D& InTranslation = FVector2D::ZeroVector)
 		: Matrix(InMatrix)
 		, Translation(InTranslation)
 	{
@@ -228,7 +228,7 @@ public:
 
 private:
 	FMatrix2x2 Matrix;
-	FVector2D Translation;
+	FVector2D Translation = FVector2D::ZeroVector;
 };
 
 /** Of two of a kind, for the kinds that know it themselves. */

@@ -4,18 +4,19 @@
 #include "Containers/UnrealString.h"
 #include "Math/MathFwd.h"
 #include "Math/UnrealMathUtility.h"
+#include "Math/UnsetNumbers.h"
 #include "Math/Vector2D.h"
 #include "Templates/TypeHash.h"
 
 namespace UE::Math
 {
-/** A vector or point in the engine's left-handed space: X forward, Y right, Z up, in centimetres. */
+/** A vector or point in the engine's left-handed space: X forward, Y right, Z up, in centimetres. The default constructor leaves it unset. */
 template <typename T>
 struct TVector
 {
-	T X = T(0);
-	T Y = T(0);
-	T Z = T(0);
+	T X;
+	T Y;
+	T Z;
 
 	static const TVector ZeroVector;
 	static const TVector OneVector;
@@ -23,7 +24,7 @@ struct TVector
 	static const TVector ForwardVector;
 	static const TVector RightVector;
 
-	constexpr TVector() = default;
+	TVector() { LeaveUnset(X, Y, Z); }
 
 	constexpr TVector(T InX, T InY, T InZ)
 		: X(InX)
@@ -37,7 +38,10 @@ struct TVector
 	{
 	}
 
-	constexpr explicit TVector(EForceInit) {}
+	constexpr explicit TVector(EForceInit)
+		: TVector(T(0), T(0), T(0))
+	{
+	}
 
 	constexpr explicit TVector(const TVector2<T>& V, T InZ)
 		: TVector(V.X, V.Y, InZ)
@@ -79,12 +83,12 @@ struct TVector
 		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance && FMath::Abs(Z - V.Z) <= Tolerance;
 	}
 
-	constexpr bool IsZero() const { return *this == TVector(); }
+	constexpr bool IsZero() const { return *this == ZeroVector; }
 	constexpr T SizeSquared() const { return *this | *this; }
 	T Size() const { return FMath::Sqrt(SizeSquared()); }
 
 	/** The vector with length 1, or zero if it is too short for that. */
-	TVector GetSafeNormal(T Tolerance = T(SMALL_NUMBER)) const { return SizeSquared() > Tolerance ? *this / Size() : TVector(); }
+	TVector GetSafeNormal(T Tolerance = T(SMALL_NUMBER)) const { return SizeSquared() > Tolerance ? *this / Size() : ZeroVector; }
 
 	static constexpr T DotProduct(const TVector& A, const TVector& B) { return A | B; }
 	static constexpr TVector CrossProduct(const TVector& A, const TVector& B) { return A ^ B; }

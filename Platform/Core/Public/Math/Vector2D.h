@@ -5,22 +5,23 @@
 #include "Math/IntPoint.h"
 #include "Math/MathFwd.h"
 #include "Math/UnrealMathUtility.h"
+#include "Math/UnsetNumbers.h"
 #include "Misc/AssertionMacros.h"
 #include "Templates/TypeHash.h"
 
 namespace UE::Math
 {
-/** A vector, point or size in two dimensions. */
+/** A vector, point or size in two dimensions. The default constructor leaves it unset. */
 template <typename T>
 struct TVector2
 {
-	T X = T(0);
-	T Y = T(0);
+	T X;
+	T Y;
 
 	static const TVector2 ZeroVector;
 	static const TVector2 UnitVector;
 
-	constexpr TVector2() = default;
+	TVector2() { LeaveUnset(X, Y); }
 
 	constexpr TVector2(T InX, T InY)
 		: X(InX)
@@ -33,7 +34,10 @@ struct TVector2
 	{
 	}
 
-	constexpr explicit TVector2(EForceInit) {}
+	constexpr explicit TVector2(EForceInit)
+		: TVector2(T(0), T(0))
+	{
+	}
 
 	constexpr TVector2(FIntPoint Point)
 		: TVector2(T(Point.X), T(Point.Y))
@@ -90,7 +94,7 @@ struct TVector2
 	}
 
 	constexpr bool IsZero() const { return X == T(0) && Y == T(0); }
-	bool IsNearlyZero(T Tolerance = T(KINDA_SMALL_NUMBER)) const { return Equals(TVector2(), Tolerance); }
+	bool IsNearlyZero(T Tolerance = T(KINDA_SMALL_NUMBER)) const { return Equals(ZeroVector, Tolerance); }
 	bool ContainsNaN() const { return !FMath::IsFinite(X) || !FMath::IsFinite(Y); }
 
 	constexpr T SizeSquared() const { return X * X + Y * Y; }
@@ -100,7 +104,7 @@ struct TVector2
 	/** The vector with length 1, or zero if it is too short for that. */
 	TVector2 GetSafeNormal(T Tolerance = T(SMALL_NUMBER)) const
 	{
-		return SizeSquared() > Tolerance ? *this / Size() : TVector2();
+		return SizeSquared() > Tolerance ? *this / Size() : ZeroVector;
 	}
 
 	constexpr T GetMax() const { return FMath::Max(X, Y); }

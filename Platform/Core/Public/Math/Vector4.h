@@ -1,18 +1,20 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Math/UnsetNumbers.h"
 
 namespace UE::Math
 {
 template <typename T>
 struct TVector4
 {
-	T X = T(0);
-	T Y = T(0);
-	T Z = T(0);
-	T W = T(0);
+	T X;
+	T Y;
+	T Z;
+	T W = T(1);
 
-	constexpr TVector4() = default;
+	/** W is 1, the others are unset. */
+	TVector4() { LeaveUnset(X, Y, Z); }
 	constexpr TVector4(T InX, T InY, T InZ, T InW)
 		: X(InX)
 		, Y(InY)

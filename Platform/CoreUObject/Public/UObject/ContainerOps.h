@@ -62,6 +62,20 @@ public:
 	virtual void Empty(void* Map, int32 Slack) const = 0;
 };
 
+/** A value as reflection makes it: what the constructor of a vector or colour leaves unset is zero. */
+template <typename T>
+T MakeZeroedValue()
+{
+	if constexpr (std::is_class_v<T> && std::is_constructible_v<T, EForceInit>)
+	{
+		return T(ForceInit);
+	}
+	else
+	{
+		return T();
+	}
+}
+
 template <typename T>
 class TArrayOps final : public FArrayOps
 {
@@ -85,7 +99,7 @@ public:
 	{
 		for (int32 New = 0; New < Count; ++New)
 		{
-			In(Array).Insert(T(), Index + New);
+			In(Array).Insert(MakeZeroedValue<T>(), Index + New);
 		}
 	}
 	void RemoveAt(void* Array, int32 Index, int32 Count) const override { In(Array).RemoveAt(Index, Count); }

@@ -161,7 +161,7 @@ struct TCppStructOps
 		static const UScriptStruct::ICppStructOps Ops = {
 			sizeof(T),
 			alignof(T),
-			[](void* Dest) { ::new (Dest) T(); },
+			[](void* Dest) { ::new (FMemory::Memzero(Dest, sizeof(T))) T(MakeZeroedValue<T>()); },
 			[](void* Dest) { static_cast<T*>(Dest)->~T(); },
 			[](void* Dest, const void* Src) { *static_cast<T*>(Dest) = *static_cast<const T*>(Src); },
 			IdenticalOf<T>(0),

@@ -371,3 +371,24 @@ TEST(DynamicContainers, SetsAndMapsMadeByHandWorkThroughTheirHelpers)
 	Map.DestroyValue(Memory.GetData());
 	Map.DestroyValue(Other.GetData());
 }
+
+// Constructors leave vectors and colours unset; reflection makes them of zeros.
+TEST(Property, VectorsAndColoursAreMadeOfZeros)
+{
+	FVector Vector(1.0, 2.0, 3.0);
+	TBaseStructure<FVector>::Get()->InitializeStruct(&Vector);
+	EXPECT_EQ(Vector, FVector::ZeroVector);
+	FLinearColor Colour = FLinearColor::White;
+	TBaseStructure<FLinearColor>::Get()->InitializeStruct(&Colour);
+	EXPECT_EQ(Colour, FLinearColor(0.0f, 0.0f, 0.0f, 0.0f));
+	FColor Bytes = FColor::White;
+	TBaseStructure<FColor>::Get()->InitializeStruct(&Bytes);
+	EXPECT_EQ(Bytes, FColor(0, 0, 0, 0));
+	FIntPoint Point(1, 2);
+	TBaseStructure<FIntPoint>::Get()->InitializeStruct(&Point);
+	EXPECT_EQ(Point, FIntPoint(0, 0));
+
+	TArray<FVector2D> Array = {FVector2D(1.0, 2.0)};
+	TArrayOps<FVector2D>::Get().Insert(&Array, 0, 2);
+	EXPECT_EQ(Array, TArray<FVector2D>({FVector2D(0.0, 0.0), FVector2D(0.0, 0.0), FVector2D(1.0, 2.0)}));
+}

@@ -9,7 +9,7 @@ class FPixelBuffer;
 /** A rounded box in pixels. */
 struct FRoundedBoxShape
 {
-	FIntPoint Size;
+	FIntPoint Size = FIntPoint::ZeroValue;
 	/** Top left, top right, bottom right, bottom left; at most half of the smaller side. */
 	float Radii[4] = {};
 	int32 OutlineWidth = 0;

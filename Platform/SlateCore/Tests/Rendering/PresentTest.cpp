@@ -42,7 +42,7 @@ public:
 		FMemory::Memcpy(FirstPixel, Bgra, 4);
 	}
 
-	FIntPoint Size;
+	FIntPoint Size = FIntPoint::ZeroValue;
 	TArray<FIntRect> Damage;
 	uint8 FirstPixel[4] = {};
 	int32 NumPresented = 0;
@@ -78,7 +78,7 @@ TEST(Present, TheWindowGetsBgraBytesAndTheDamageCutAtIt)
 
 	Renderer->RequestResize(Window, FIntPoint(40, 10));
 	TArray<FColor> Pixels;
-	FIntPoint Size;
+	FIntPoint Size = FIntPoint::ZeroValue;
 	EXPECT_TRUE(Renderer->ReadPixels(Window, Pixels, Size));
 	EXPECT_EQ(Size, FIntPoint(40, 10));
 	EXPECT_EQ(Pixels[0], FColor(0, 0, 0));

@@ -33,8 +33,8 @@ struct STextBlock::FOverrides
 
 	TLayout<FSlateFontInfo> Font;
 	TPaint<FSlateColor> ColorAndOpacity;
-	TLayout<FVector2D> ShadowOffset;
-	TPaint<FLinearColor> ShadowColorAndOpacity;
+	TLayout<FVector2D> ShadowOffset{FVector2D::ZeroVector};
+	TPaint<FLinearColor> ShadowColorAndOpacity{FLinearColor::Transparent};
 	TLayout<float> WrapTextAt{0.0f};
 	TLayout<bool> AutoWrapText{false};
 	TLayout<ETextWrappingPolicy> WrappingPolicy{ETextWrappingPolicy::DefaultWrapping};
