@@ -4,7 +4,7 @@
 #include "Misc/FormatVarArgs.h"
 #include "Misc/OutputDeviceRedirector.h"
 
-void FMsg::Logf(const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, ...)
+void FMsg::LogfImpl(const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, ...)
 {
 	va_list Args;
 	va_start(Args, Fmt);

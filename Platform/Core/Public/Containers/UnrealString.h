@@ -4,6 +4,7 @@
 #include "Containers/StringConv.h"
 #include "Misc/CString.h"
 #include "Misc/Char.h"
+#include "Templates/IsValidVariadicFunctionArg.h"
 
 /**
  * Text in UTF-16, with a closing zero. ==, != and < ignore case, and so do hashing and, unless told otherwise, Find, Contains,
@@ -11,6 +12,11 @@
  */
 class CORE_API FString
 {
+private:
+	/** A type if Printf takes all of these. */
+	template <typename... Types>
+	using TPrintable = std::enable_if_t<(... && bool(TIsValidVariadicFunctionArg<Types>::Value))>;
+
 public:
 	using DataType = TArray<TCHAR>;
 	using ElementType = TCHAR;
@@ -248,21 +254,19 @@ public:
 	/** As %f prints it, with zeros trimmed down to MinFractionalDigits; never "-0.0". */
 	static FString SanitizeFloat(double Value, int32 MinFractionalDigits = 1);
 
-	/** As C's printf; %s takes TCHAR text, %S narrow text. */
-	template <typename FormatType, typename... Types>
+	/** As C's printf, for numbers, enums and pointers only; %s takes TCHAR text, %S narrow text. */
+	template <typename FormatType, typename... Types, typename = TPrintable<Types...>>
 	static FString Printf(const FormatType& Format, Types... Args)
 	{
 		static_assert(
 			std::is_array_v<FormatType> && std::is_same_v<std::remove_cv_t<std::remove_all_extents_t<FormatType>>, TCHAR>,
 			"The format is a TCHAR literal");
-		static_assert((... && std::is_trivially_copyable_v<Types>), "Only numbers, enums and pointers can be printed");
 		return PrintfImpl(Format, Args...);
 	}
-	template <typename FormatType, typename... Types>
+	template <typename FormatType, typename... Types, typename = TPrintable<Types...>>
 	FString& Appendf(const FormatType& Format, Types... Args)
 	{
 		static_assert(std::is_array_v<FormatType>, "The format is a TCHAR literal");
-		static_assert((... && std::is_trivially_copyable_v<Types>), "Only numbers, enums and pointers can be printed");
 		return AppendfImpl(Format, Args...);
 	}
 

@@ -4,6 +4,7 @@
 
 #include "Logging/LogCategory.h"
 #include "Logging/LogVerbosity.h"
+#include "Templates/IsValidVariadicFunctionArg.h"
 
 /** The functions behind the log macros. */
 struct CORE_API FMsg
@@ -13,7 +14,16 @@ struct CORE_API FMsg
 	 *
 	 * @param Fmt  Format as for FString::Printf; the arguments must match it.
 	 */
+	template <typename... Types>
 	static void Logf(
+		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, Types... Args)
+	{
+		static_assert((... && TIsValidVariadicFunctionArg<Types>::Value), "Only numbers, enums and pointers can be printed");
+		LogfImpl(File, Line, Category, Verbosity, Fmt, Args...);
+	}
+
+private:
+	static void LogfImpl(
 		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Fmt, ...);
 };
 

@@ -1,4 +1,6 @@
 #include "CoreMinimal.h"
+#include "Misc/Attribute.h"
+#include "Misc/Optional.h"
 
 #include <gtest/gtest.h>
 
@@ -47,4 +49,39 @@ TEST(Printf, GetVarArgsRefusesABufferThatIsTooSmall)
 	EXPECT_EQ(FCString::Snprintf(Buffer, 4, TEXT("%d"), 123), 3);
 	EXPECT_EQ(FString(Buffer), TEXT("123"));
 	EXPECT_EQ(FCString::Snprintf(Buffer, 4, TEXT("%d"), 1234), -1);
+}
+
+namespace
+{
+template <typename... Types>
+constexpr auto CanPrint(int) -> decltype(FString::Printf(TEXT("%s"), std::declval<Types>()...), true)
+{
+	return true;
+}
+template <typename... Types>
+constexpr bool CanPrint(...)
+{
+	return false;
+}
+
+struct FPair
+{
+	int32 A;
+	int32 B;
+};
+enum class EKind : uint8
+{
+	First
+};
+}
+
+// FString::Printf takes numbers, enums and pointers, nothing else.
+TEST(Printf, RefusesWhatIsNoNumberEnumOrPointer)
+{
+	static_assert(CanPrint<int32, uint64, float, double, bool, TCHAR>(0));
+	static_assert(CanPrint<EKind, const TCHAR*, void*, const ANSICHAR*>(0));
+	static_assert(!CanPrint<FString>(0) && !CanPrint<FName>(0) && !CanPrint<FText>(0) && !CanPrint<int32, FString>(0));
+	static_assert(
+		!CanPrint<FPair>(0) && !CanPrint<FVector2D>(0) && !CanPrint<TAttribute<int32>>(0) && !CanPrint<TOptional<int32>>(0));
+	EXPECT_EQ(FString::Printf(TEXT("%d %d"), EKind::First, true), TEXT("0 1"));
 }
