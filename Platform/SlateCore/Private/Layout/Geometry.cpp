@@ -4,20 +4,12 @@
 
 FGeometry FGeometry::MakeRoot(const FVector2D& InLocalSize, const FSlateLayoutTransform& LayoutTransform)
 {
-	FGeometry Root;
-	Root.Size = InLocalSize;
-	Root.AbsolutePosition = LayoutTransform.GetTranslation();
-	Root.Scale = LayoutTransform.GetScale();
-	return Root;
+	return FGeometry(InLocalSize, LayoutTransform.GetTranslation(), LayoutTransform.GetScale());
 }
 
 FGeometry FGeometry::MakeChild(const FVector2D& InLocalSize, const FSlateLayoutTransform& LocalTransform) const
 {
-	FGeometry Child;
-	Child.Size = InLocalSize;
-	Child.Scale = Scale * LocalTransform.GetScale();
-	Child.AbsolutePosition = LocalToAbsolute(LocalTransform.GetTranslation());
-	return Child;
+	return FGeometry(InLocalSize, LocalToAbsolute(LocalTransform.GetTranslation()), Scale * LocalTransform.GetScale());
 }
 
 FArrangedWidget FGeometry::MakeChild(
@@ -51,7 +43,5 @@ FSlateRect FGeometry::GetLayoutBoundingRect() const
 
 FGeometry FGeometry::MovedBy(const FVector2D& Offset) const
 {
-	FGeometry Moved = *this;
-	Moved.AbsolutePosition += Offset;
-	return Moved;
+	return FGeometry(Size, AbsolutePosition + Offset, Scale);
 }

@@ -15,7 +15,20 @@ class SWidget;
  */
 struct SLATECORE_API FGeometry
 {
-	FGeometry() = default;
+	FGeometry()
+		: Size(FVector2D::ZeroVector)
+		, AbsolutePosition(FVector2D::ZeroVector)
+		, Scale(1.0f)
+	{
+	}
+	FGeometry(const FGeometry&) = default;
+
+	/** The numbers are for reading only; another geometry takes the place of this one as a whole. */
+	FGeometry& operator=(const FGeometry& Other)
+	{
+		FMemory::Memmove(static_cast<void*>(this), &Other, sizeof(FGeometry));
+		return *this;
+	}
 
 	static FGeometry MakeRoot(const FVector2D& InLocalSize, const FSlateLayoutTransform& LayoutTransform);
 
@@ -60,7 +73,15 @@ struct SLATECORE_API FGeometry
 	}
 	bool operator!=(const FGeometry& Other) const { return !(*this == Other); }
 
-	FVector2D Size = FVector2D::ZeroVector;
-	FVector2D AbsolutePosition = FVector2D::ZeroVector;
-	float Scale = 1.0f;
+	const FVector2D Size;
+	const FVector2D AbsolutePosition;
+	const float Scale;
+
+private:
+	FGeometry(const FVector2D& InSize, const FVector2D& InAbsolutePosition, float InScale)
+		: Size(InSize)
+		, AbsolutePosition(InAbsolutePosition)
+		, Scale(InScale)
+	{
+	}
 };
