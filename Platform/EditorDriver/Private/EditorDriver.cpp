@@ -84,7 +84,8 @@ bool MoveOver(const FWidgetDescription& Description, float U = 0.5f, float V = 0
 	const FVector2D Place = Widget->GetTickSpaceGeometry().GetAbsolutePositionAtCoordinates(FVector2D(U, V));
 	InputPlayer::MoveMouse(Place);
 
-	const FWidgetPath Under = FSlateApplication::Get().LocateWindowUnderMouse(Place);
+	const FWidgetPath Under =
+		FSlateApplication::Get().LocateWindowUnderMouse(Place, FSlateApplication::Get().GetInteractiveTopLevelWindows());
 	if (Under.ContainsWidget(Widget.Get()))
 	{
 		return true;
@@ -103,7 +104,7 @@ FString DescribeTaker()
 	{
 		return WidgetFinder::Describe(*Captor);
 	}
-	const FWidgetPath Under = App.LocateWindowUnderMouse(App.GetCursorPos());
+	const FWidgetPath Under = App.LocateWindowUnderMouse(App.GetCursorPos(), App.GetInteractiveTopLevelWindows());
 	return Under.IsValid() ? WidgetFinder::Describe(Under.GetLastWidget().Get()) : FString();
 }
 

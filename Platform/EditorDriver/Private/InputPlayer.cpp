@@ -70,7 +70,7 @@ void InputPlayer::MoveMouse(const FVector2D& DesktopPlace)
 void InputPlayer::Press(EMouseButtons::Type Button, bool bDoubleClick)
 {
 	const FVector2D Place = App().GetCursorPos();
-	const FWidgetPath Under = App().LocateWindowUnderMouse(Place);
+	const FWidgetPath Under = App().LocateWindowUnderMouse(Place, App().GetInteractiveTopLevelWindows());
 	const TSharedPtr<FGenericWindow> Native = Under.TopLevelWindow.IsValid() ? Under.TopLevelWindow->GetNativeWindow() : nullptr;
 	if (bDoubleClick)
 	{

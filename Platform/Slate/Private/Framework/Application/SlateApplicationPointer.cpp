@@ -54,18 +54,22 @@ FPointerEvent FSlateApplication::MakePointerEvent(const FVector2D& Position, con
 	return FPointerEvent(Position, LastCursorPosition, PressedMouseButtons, Button, WheelDelta, GetModifierKeys());
 }
 
-FWidgetPath FSlateApplication::LocateWindowUnderMouse(const FVector2D& ScreenSpaceMouseCoordinate) const
+FWidgetPath FSlateApplication::LocateWindowUnderMouse(
+	const FVector2D& ScreenSpaceMouseCoordinate, const TArray<TSharedRef<SWindow>>& InWindows, bool bIgnoreEnabledStatus) const
 {
-	for (int32 Index = Windows.Num() - 1; Index >= 0; --Index)
+	for (int32 Index = InWindows.Num() - 1; Index >= 0; --Index)
 	{
-		const TSharedRef<SWindow>& Window = Windows[Index];
+		const TSharedRef<SWindow>& Window = InWindows[Index];
 		const FVector2D PlaceInWindow = ScreenSpaceMouseCoordinate - Window->GetPositionInScreen();
 		if (!Window->IsShown() || !Window->GetPaintSpaceGeometry().IsUnderLocation(PlaceInWindow))
 		{
 			continue;
 		}
 		TArray<SWidget*> RootToLeaf = SlateHitTest::FindPath(Window.Get(), PlaceInWindow);
-		CutAtDisabled(RootToLeaf);
+		if (!bIgnoreEnabledStatus)
+		{
+			CutAtDisabled(RootToLeaf);
+		}
 
 		TArray<FArrangedWidget> Arranged;
 		Arranged.Reserve(RootToLeaf.Num());
@@ -84,7 +88,7 @@ FWidgetPath FSlateApplication::GetPointerTarget(const FPointerEvent& Event) cons
 	{
 		return FWidgetPath::To(Captor.ToSharedRef());
 	}
-	return LocateWindowUnderMouse(Event.GetScreenSpacePosition());
+	return LocateWindowUnderMouse(Event.GetScreenSpacePosition(), GetInteractiveTopLevelWindows());
 }
 
 FReply FSlateApplication::RoutePointer(const FWidgetPath& Path, const FPointerEvent& Event, const TCHAR* Kind,
@@ -241,7 +245,7 @@ void FSlateApplication::ProcessSyntheticMouseMove()
 bool FSlateApplication::ProcessMouseMove(const FPointerEvent& Event)
 {
 	RequestFrame();
-	const FWidgetPath UnderMouse = LocateWindowUnderMouse(Event.GetScreenSpacePosition());
+	const FWidgetPath UnderMouse = LocateWindowUnderMouse(Event.GetScreenSpacePosition(), GetInteractiveTopLevelWindows());
 	UpdateHover(UnderMouse, Event);
 	const FWidgetPath Path = MouseCaptor.IsValid() ? GetPointerTarget(Event) : UnderMouse;
 	const FReply Reply = RoutePointer(Path, Event, TEXT("mouse move"), &SWidget::OnMouseMove);

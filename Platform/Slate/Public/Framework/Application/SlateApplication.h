@@ -107,8 +107,14 @@ public:
 	FVector2D GetCursorPos() const;
 	FModifierKeysState GetModifierKeys() const;
 
-	/** The widgets under a place of the desktop, down to the deepest that can be hit and is enabled. */
-	FWidgetPath LocateWindowUnderMouse(const FVector2D& ScreenSpaceMouseCoordinate) const;
+	/**
+	 * The widgets under a place of the desktop, down to the deepest that can be hit and is enabled.
+	 *
+	 * @param InWindows The windows to look in, the frontmost last, as GetInteractiveTopLevelWindows gives them.
+	 * @param bIgnoreEnabledStatus Goes down to disabled widgets too.
+	 */
+	FWidgetPath LocateWindowUnderMouse(const FVector2D& ScreenSpaceMouseCoordinate, const TArray<TSharedRef<SWindow>>& InWindows,
+		bool bIgnoreEnabledStatus = false) const;
 
 	bool SetKeyboardFocus(
 		const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);

@@ -13,6 +13,12 @@
 
 namespace
 {
+const SWidget* WidgetUnder(const FVector2D& Place)
+{
+	const FSlateApplication& App = FSlateApplication::Get();
+	return &App.LocateWindowUnderMouse(Place, App.GetInteractiveTopLevelWindows()).GetLastWidget().Get();
+}
+
 /** A widget that writes down what reaches it, and answers as it is told. */
 class SRecorder : public SBorder
 {
@@ -151,15 +157,11 @@ TEST(Routing, HitTestInvisibleTakesTheChildrenOutAndSelfHitTestInvisibleOnlyItse
 	FSlateTestWindow Window(Nested.Make());
 
 	Nested.Outer->SetVisibility(EVisibility::HitTestInvisible);
-	EXPECT_EQ(
-		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
-		&Window.GetWindow());
+	EXPECT_EQ(WidgetUnder(Middle + Window.GetWindow().GetPositionInScreen()), &Window.GetWindow());
 
 	Nested.Outer->SetVisibility(EVisibility::Visible);
 	Nested.Inner->SetVisibility(EVisibility::SelfHitTestInvisible);
-	EXPECT_EQ(
-		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
-		Nested.Outer.Get());
+	EXPECT_EQ(WidgetUnder(Middle + Window.GetWindow().GetPositionInScreen()), Nested.Outer.Get());
 }
 
 TEST(Routing, WhatIsPaintedLaterIsHitFirst)
@@ -169,9 +171,7 @@ TEST(Routing, WhatIsPaintedLaterIsHitFirst)
 	FSlateTestWindow Window(
 		SNew(SOverlay) + SOverlay::Slot()[SAssignNew(Below, SBorder)] + SOverlay::Slot()[SAssignNew(Above, SBorder)]);
 
-	EXPECT_EQ(
-		&FSlateApplication::Get().LocateWindowUnderMouse(Middle + Window.GetWindow().GetPositionInScreen()).GetLastWidget().Get(),
-		Above.Get());
+	EXPECT_EQ(WidgetUnder(Middle + Window.GetWindow().GetPositionInScreen()), Above.Get());
 }
 
 TEST(Routing, WhenTheLayoutChangesHoverFollowsTheWidgetsWithAMoveOfZeroLength)
