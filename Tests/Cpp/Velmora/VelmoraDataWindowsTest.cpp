@@ -327,12 +327,12 @@ TEST(RequestClose, TabThatMayNotCloseStaysAndGivesFalse)
 {
 	FRunningPlugin Plugin;
 	Plugin.Launch(TEXT("A.json"), EmptyTool);
-	OpenToolTabs[0]->SetCanCloseTab(FCanCloseTab::CreateLambda([] { return false; }));
+	OpenToolTabs[0]->SetCanCloseTab(SDockTab::FCanCloseTab::CreateLambda([] { return false; }));
 
 	EXPECT_FALSE(UVelmoraData::RequestClose(TEXT("A.json")));
 
 	EXPECT_EQ(OpenToolTabs.Num(), 1);
-	OpenToolTabs[0]->SetCanCloseTab(FCanCloseTab());
+	OpenToolTabs[0]->SetCanCloseTab(SDockTab::FCanCloseTab());
 }
 
 TEST(RequestClose, ClosedToolIsReportedWithTheKnownOnes)

@@ -3,20 +3,44 @@
 TSharedRef<FTabManager::FStack> FTabManager::FStack::AddTab(const FTabId& TabId, ETabState::Type InTabState)
 {
 	Tabs.Add({TabId, InTabState});
-	return AsShared();
+	return SharedThis(this);
+}
+
+TSharedRef<FTabManager::FStack> FTabManager::FStack::SetSizeCoefficient(const float InSizeCoefficient)
+{
+	SizeCoefficient = InSizeCoefficient;
+	return SharedThis(this);
+}
+
+TSharedRef<FTabManager::FSplitter> FTabManager::FSplitter::Split(const TSharedRef<FLayoutNode>& InNode)
+{
+	ChildNodes.Add(InNode);
+	return SharedThis(this);
+}
+
+TSharedRef<FTabManager::FSplitter> FTabManager::FSplitter::SetOrientation(const EOrientation InOrientation)
+{
+	Orientation = InOrientation;
+	return SharedThis(this);
+}
+
+TSharedRef<FTabManager::FSplitter> FTabManager::FSplitter::SetSizeCoefficient(const float InSizeCoefficient)
+{
+	SizeCoefficient = InSizeCoefficient;
+	return SharedThis(this);
 }
 
 TSharedRef<FTabManager::FArea> FTabManager::FArea::SetWindow(FVector2D InPosition, bool bInIsMaximized)
 {
 	WindowPosition = InPosition;
 	bMaximized = bInIsMaximized;
-	return AsShared();
+	return SharedThis(this);
 }
 
-TSharedRef<FTabManager::FArea> FTabManager::FArea::Split(const TSharedRef<FStack>& InStack)
+TSharedRef<FTabManager::FArea> FTabManager::FArea::SetOrientation(const EOrientation InOrientation)
 {
-	Stacks.Add(InStack);
-	return AsShared();
+	Orientation = InOrientation;
+	return SharedThis(this);
 }
 
 TSharedRef<FTabManager::FLayout> FTabManager::FLayout::AddArea(const TSharedRef<FArea>& InArea)
@@ -49,4 +73,9 @@ TSharedRef<FTabManager::FArea> FTabManager::NewPrimaryArea()
 TSharedRef<FTabManager::FStack> FTabManager::NewStack()
 {
 	return MakeShared<FStack>();
+}
+
+TSharedRef<FTabManager::FSplitter> FTabManager::NewSplitter()
+{
+	return MakeShared<FSplitter>();
 }

@@ -15,10 +15,28 @@ namespace
 const FVector2D DefaultWindowSize(800.0, 600.0);
 }
 
+const FText& FTabSpawnerEntry::GetDisplayName() const
+{
+	ShownName = DisplayNameAttribute.IsSet() ? DisplayNameAttribute.Get() : FText::FromName(TabType);
+	return ShownName;
+}
+
 FTabSpawnerEntry& FTabManager::RegisterSpawner(FName TabId, const FOnSpawnTab& OnSpawnTab)
 {
 	checkf(!Spawners.Contains(TabId), TEXT("A tab spawner for '%s' is registered already"), *TabId.ToString());
-	return *Spawners.Add(TabId, MakeUnique<FTabSpawnerEntry>(TabId, OnSpawnTab));
+	return Spawners.Add(TabId, MakeShared<FTabSpawnerEntry>(TabId, OnSpawnTab)).Get();
+}
+
+bool FTabManager::UnregisterSpawner(FName TabId)
+{
+	if (const TSharedRef<FTabSpawnerEntry>* Entry = Spawners.Find(TabId))
+	{
+		if (const TSharedPtr<FWorkspaceItem> Group = (*Entry)->GetParent())
+		{
+			Group->RemoveItem(*Entry);
+		}
+	}
+	return Spawners.Remove(TabId) > 0;
 }
 
 TSharedPtr<SDockTab> FTabManager::FindExistingLiveTab(const FTabId& TabId) const
@@ -57,26 +75,26 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId)
 
 TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef<SDockingTabStack>& Stack)
 {
-	const TUniquePtr<FTabSpawnerEntry>* Registered = Spawners.Find(TabId.TabType);
+	const TSharedRef<FTabSpawnerEntry>* Registered = Spawners.Find(TabId.TabType);
 	if (!Registered)
 	{
 		UE_LOG(LogTabManager, Warning, TEXT("There is no tab spawner for '%s'."), *TabId.ToString());
 		return nullptr;
 	}
 	// The spawner runs code of others, which may unregister it.
-	const FTabSpawnerEntry Entry = **Registered;
-	const FText DisplayName = Entry.GetDisplayName();
+	const TSharedRef<FTabSpawnerEntry> Entry = *Registered;
+	const FText DisplayName = Entry->GetDisplayName();
 	const FCpuProfilerScopeStack::FScope Scope(
 		[&] { return FString::Printf(TEXT("opening of tab \"%s\""), *DisplayName.ToString()); });
 
 	const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Stack);
-	const TSharedRef<SDockTab> Tab = Entry.OnSpawnTab.Execute(FSpawnTabArgs(Window, TabId));
+	const TSharedRef<SDockTab> Tab = Entry->OnSpawnTab.Execute(FSpawnTabArgs(Window, TabId));
 	Tab->SetLayoutIdentifier(TabId);
 	if (!Tab->bHasLabel)
 	{
 		Tab->SetLabel(DisplayName);
 	}
-	Tab->SetTabIcon(Entry.GetIcon().GetOptionalIcon());
+	Tab->SetTabIcon(Entry->GetIcon().GetOptionalIcon());
 	Stack->AddTab(Tab);
 	FGlobalTabmanager::Get()->LiveTabs.Add(Tab);
 	Tab->ActivateInParent(ETabActivationCause::SetDirectly);
@@ -101,56 +119,80 @@ TSharedPtr<SWidget> FTabManager::RestoreFrom(const TSharedRef<FLayout>& Layout, 
 	{
 		if (Area->bPrimary)
 		{
-			Primary = BuildArea(*Area, ParentWindow);
+			Primary = BuildNode(*Area);
 		}
 		else
 		{
-			OpenAreaWindow(*Area);
+			OpenWindows(*Area, *Area);
 		}
 	}
 	return Primary;
 }
 
-TSharedRef<SWidget> FTabManager::BuildArea(const FArea& Area, const TSharedPtr<SWindow>& Window)
+TSharedRef<SWidget> FTabManager::BuildNode(FLayoutNode& Node)
 {
-	const TSharedRef<SHorizontalBox> SideBySide = SNew(SHorizontalBox);
-	for (const TSharedRef<FStack>& StackLayout : Area.Stacks)
+	if (const TSharedPtr<FStack> StackLayout = Node.AsStack())
 	{
-		const TSharedRef<SDockingTabStack> Stack = SNew(SDockingTabStack);
-		SideBySide->AddSlot()[Stack];
-		if (!PrimaryStack.IsValid())
+		return BuildStack(*StackLayout);
+	}
+	const TSharedPtr<FSplitter> Splitter = Node.AsSplitter();
+	const TSharedRef<SHorizontalBox> Beside = SNew(SHorizontalBox);
+	const TSharedRef<SVerticalBox> Below = SNew(SVerticalBox);
+	const bool bHorizontal = Splitter->Orientation == Orient_Horizontal;
+	for (const TSharedRef<FLayoutNode>& Child : Splitter->ChildNodes)
+	{
+		const TSharedRef<SWidget> Part = BuildNode(*Child);
+		if (bHorizontal)
 		{
-			PrimaryStack = Stack;
+			Beside->AddSlot().FillWidth(Child->GetSizeCoefficient())[Part];
 		}
-		for (const FStack::FTab& Tab : StackLayout->Tabs)
+		else
 		{
-			if (Tab.State == ETabState::OpenedTab && !FindExistingLiveTab(Tab.TabId).IsValid())
-			{
-				SpawnTab(Tab.TabId, Stack);
-			}
+			Below->AddSlot().FillHeight(Child->GetSizeCoefficient())[Part];
 		}
 	}
-	return SideBySide;
+	return bHorizontal ? TSharedRef<SWidget>(Beside) : TSharedRef<SWidget>(Below);
 }
 
-void FTabManager::OpenAreaWindow(const FArea& Area)
+TSharedRef<SWidget> FTabManager::BuildStack(const FStack& StackLayout)
 {
-	for (const TSharedRef<FStack>& StackLayout : Area.Stacks)
+	const TSharedRef<SDockingTabStack> Stack = SNew(SDockingTabStack);
+	if (!PrimaryStack.IsValid())
 	{
-		TSharedPtr<SDockingTabStack> Stack;
-		for (const FStack::FTab& Tab : StackLayout->Tabs)
+		PrimaryStack = Stack;
+	}
+	for (const FStack::FTab& Tab : StackLayout.Tabs)
+	{
+		if (Tab.State == ETabState::OpenedTab && !FindExistingLiveTab(Tab.TabId).IsValid())
 		{
-			if (Tab.State != ETabState::OpenedTab || FindExistingLiveTab(Tab.TabId).IsValid() ||
-				!HasTabSpawner(Tab.TabId.TabType))
-			{
-				continue;
-			}
-			if (!Stack.IsValid())
-			{
-				Stack = MakeStackInNewWindow(Area.Size, Area.WindowPosition, Area.bMaximized);
-			}
-			SpawnTab(Tab.TabId, Stack.ToSharedRef());
+			SpawnTab(Tab.TabId, Stack);
 		}
+	}
+	return Stack;
+}
+
+void FTabManager::OpenWindows(const FArea& Area, FLayoutNode& Node)
+{
+	if (const TSharedPtr<FSplitter> Splitter = Node.AsSplitter())
+	{
+		for (const TSharedRef<FLayoutNode>& Child : Splitter->ChildNodes)
+		{
+			OpenWindows(Area, *Child);
+		}
+		return;
+	}
+	TSharedPtr<SDockingTabStack> Stack;
+	for (const FStack::FTab& Tab : Node.AsStack()->Tabs)
+	{
+		if (Tab.State != ETabState::OpenedTab || FindExistingLiveTab(Tab.TabId).IsValid() || !HasTabSpawner(Tab.TabId.TabType))
+		{
+			continue;
+		}
+		if (!Stack.IsValid())
+		{
+			Stack = MakeStackInNewWindow(Area.Size, Area.WindowPosition, Area.bMaximized);
+		}
+		SpawnTab(Tab.TabId, Stack.ToSharedRef());
 	}
 }
 

@@ -1,15 +1,42 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Framework/Docking/TabId.h"
+#include "Framework/Docking/WorkspaceItem.h"
 #include "Misc/Attribute.h"
 #include "Textures/SlateIcon.h"
+#include "Types/SlateEnums.h"
 
 class FTabManager;
 class SDockingTabStack;
 class SDockTab;
 class SWidget;
 class SWindow;
+
+/** Names a tab: the type that its spawner is registered under, and an instance where there are several of a type. */
+struct FTabId
+{
+	FTabId() = default;
+	FTabId(const FName InTabType)
+		: TabType(InTabType)
+	{
+	}
+	FTabId(const FName InTabType, const int32 InInstanceId)
+		: TabType(InTabType)
+		, InstanceId(InInstanceId)
+	{
+	}
+
+	bool operator==(const FTabId& Other) const { return TabType == Other.TabType && InstanceId == Other.InstanceId; }
+
+	/** The type; with an instance, a colon and its number follow. */
+	FString ToString() const
+	{
+		return InstanceId == INDEX_NONE ? TabType.ToString() : FString::Printf(TEXT("%s:%d"), *TabType.ToString(), InstanceId);
+	}
+
+	FName TabType;
+	int32 InstanceId = INDEX_NONE;
+};
 
 namespace ETabState
 {
@@ -26,6 +53,8 @@ enum Type
 {
 	/** Offered in the menus that list tabs. */
 	Enabled,
+	/** Listed, but not to be opened from there. */
+	Disabled,
 	/** Opened by code only. */
 	Hidden,
 };
@@ -59,17 +88,18 @@ private:
 DECLARE_DELEGATE_RetVal_OneParam(TSharedRef<SDockTab>, FOnSpawnTab, const FSpawnTabArgs&);
 
 /** A registered kind of tab: how it is made and what it is called. */
-struct SLATE_API FTabSpawnerEntry
+struct SLATE_API FTabSpawnerEntry : public FWorkspaceItem
 {
 	FTabSpawnerEntry(const FName InTabType, const FOnSpawnTab& InSpawnTabMethod)
-		: TabType(InTabType)
+		: FWorkspaceItem(FText::GetEmpty(), FSlateIcon(), false)
+		, TabType(InTabType)
 		, OnSpawnTab(InSpawnTabMethod)
 	{
 	}
 
 	FTabSpawnerEntry& SetDisplayName(const TAttribute<FText>& InDisplayName)
 	{
-		DisplayName = InDisplayName;
+		DisplayNameAttribute = InDisplayName;
 		return *this;
 	}
 	FTabSpawnerEntry& SetIcon(const FSlateIcon& InIcon)
@@ -83,9 +113,16 @@ struct SLATE_API FTabSpawnerEntry
 		return *this;
 	}
 
+	/** Lists the spawner in a group of a menu, instead of where it was listed before. */
+	FTabSpawnerEntry& SetGroup(const TSharedRef<FWorkspaceItem>& InGroup)
+	{
+		InGroup->AddItem(SharedThis(this));
+		return *this;
+	}
+
 	/** The display name; without one, the type. */
-	FText GetDisplayName() const { return DisplayName.IsSet() ? DisplayName.Get() : FText::FromName(TabType); }
-	const FSlateIcon& GetIcon() const { return Icon; }
+	virtual const FText& GetDisplayName() const override;
+	virtual TSharedPtr<FTabSpawnerEntry> AsSpawnerEntry() override { return SharedThis(this); }
 	ETabSpawnerMenuType::Type GetMenuType() const { return MenuType; }
 
 private:
@@ -93,8 +130,9 @@ private:
 
 	FName TabType;
 	FOnSpawnTab OnSpawnTab;
-	TAttribute<FText> DisplayName;
-	FSlateIcon Icon;
+	TAttribute<FText> DisplayNameAttribute;
+	/** What the attribute gave last. */
+	mutable FText ShownName;
 	ETabSpawnerMenuType::Type MenuType = ETabSpawnerMenuType::Enabled;
 };
 
@@ -104,11 +142,33 @@ DECLARE_MULTICAST_DELEGATE_TwoParams(FOnActiveTabChanged, TSharedPtr<SDockTab>, 
 class SLATE_API FTabManager : public TSharedFromThis<FTabManager>
 {
 public:
+	class FSplitter;
+	class FStack;
+
+	/** A part of an area: tabs that share a well, or a division into further parts. */
+	class SLATE_API FLayoutNode : public TSharedFromThis<FLayoutNode>
+	{
+	public:
+		virtual ~FLayoutNode() = default;
+
+		virtual TSharedPtr<FStack> AsStack() { return nullptr; }
+		virtual TSharedPtr<FSplitter> AsSplitter() { return nullptr; }
+
+		/** The share of the room, in relation to the nodes beside it. */
+		float GetSizeCoefficient() const { return SizeCoefficient; }
+
+	protected:
+		float SizeCoefficient = 1.0f;
+	};
+
 	/** Tabs that share one well. */
-	class SLATE_API FStack : public TSharedFromThis<FStack>
+	class SLATE_API FStack : public FLayoutNode
 	{
 	public:
 		TSharedRef<FStack> AddTab(const FTabId& TabId, ETabState::Type InTabState);
+		TSharedRef<FStack> SetSizeCoefficient(const float InSizeCoefficient);
+
+		virtual TSharedPtr<FStack> AsStack() override { return SharedThis(this); }
 
 	private:
 		friend class FTabManager;
@@ -121,13 +181,38 @@ public:
 		TArray<FTab> Tabs;
 	};
 
+	/** Parts beside or below each other. */
+	class SLATE_API FSplitter : public FLayoutNode
+	{
+	public:
+		TSharedRef<FSplitter> Split(const TSharedRef<FLayoutNode>& InNode);
+		TSharedRef<FSplitter> SetOrientation(const EOrientation InOrientation);
+		TSharedRef<FSplitter> SetSizeCoefficient(const float InSizeCoefficient);
+
+		virtual TSharedPtr<FSplitter> AsSplitter() override { return SharedThis(this); }
+
+	protected:
+		friend class FTabManager;
+
+		EOrientation Orientation = Orient_Horizontal;
+		TArray<TSharedRef<FLayoutNode>> ChildNodes;
+	};
+
 	/** A window of its own, or the part of the main window that holds tabs. */
-	class SLATE_API FArea : public TSharedFromThis<FArea>
+	class SLATE_API FArea : public FSplitter
 	{
 	public:
 		/** @param InPosition Desktop pixels. One outside the work area is moved to its edge: (-1, -1) is the corner of the screen. */
 		TSharedRef<FArea> SetWindow(FVector2D InPosition, bool bInIsMaximized);
-		TSharedRef<FArea> Split(const TSharedRef<FStack>& InStack);
+
+		/** Adds a stack, or a splitter with parts of its own. */
+		template <typename SplitterElement>
+		TSharedRef<FArea> Split(const TSharedRef<SplitterElement>& InElement)
+		{
+			FSplitter::Split(InElement);
+			return SharedThis(this);
+		}
+		TSharedRef<FArea> SetOrientation(const EOrientation InOrientation);
 
 	private:
 		friend class FTabManager;
@@ -135,7 +220,6 @@ public:
 		FVector2D Size = FVector2D::ZeroVector;
 		/** Unset, the window is centred. */
 		TOptional<FVector2D> WindowPosition;
-		TArray<TSharedRef<FStack>> Stacks;
 		bool bPrimary = false;
 		bool bMaximized = false;
 	};
@@ -159,6 +243,7 @@ public:
 	static TSharedRef<FArea> NewArea(const FVector2D& InSize);
 	static TSharedRef<FArea> NewPrimaryArea();
 	static TSharedRef<FStack> NewStack();
+	static TSharedRef<FSplitter> NewSplitter();
 
 	virtual ~FTabManager() = default;
 
@@ -189,7 +274,7 @@ public:
 
 protected:
 	FTabSpawnerEntry& RegisterSpawner(FName TabId, const FOnSpawnTab& OnSpawnTab);
-	bool UnregisterSpawner(FName TabId) { return Spawners.Remove(TabId) > 0; }
+	bool UnregisterSpawner(FName TabId);
 
 private:
 	friend class SDockTab;
@@ -197,12 +282,14 @@ private:
 
 	/** Makes the tab and puts it into a well. */
 	TSharedPtr<SDockTab> SpawnTab(const FTabId& TabId, const TSharedRef<SDockingTabStack>& Stack);
-	TSharedRef<SWidget> BuildArea(const FArea& Area, const TSharedPtr<SWindow>& Window);
-	void OpenAreaWindow(const FArea& Area);
+	TSharedRef<SWidget> BuildNode(FLayoutNode& Node);
+	TSharedRef<SWidget> BuildStack(const FStack& StackLayout);
+	/** Each stack below the node gets a window of its own, at the area's place. */
+	void OpenWindows(const FArea& Area, FLayoutNode& Node);
 	TSharedRef<SDockingTabStack> MakeStackInNewWindow(
 		const FVector2D& Size, const TOptional<FVector2D>& Position, bool bMaximized);
 
-	TMap<FName, TUniquePtr<FTabSpawnerEntry>> Spawners;
+	TMap<FName, TSharedRef<FTabSpawnerEntry>> Spawners;
 	TWeakPtr<SDockingTabStack> PrimaryStack;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Framework/Docking/TabId.h"
+#include "Framework/Docking/TabManager.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/Layout/SBorder.h"
 
@@ -24,13 +24,13 @@ enum class ETabActivationCause : uint8
 	SetDirectly,
 };
 
-DECLARE_DELEGATE_OneParam(FOnTabClosedCallback, TSharedRef<SDockTab>);
-DECLARE_DELEGATE_RetVal(bool, FCanCloseTab);
-
 /** A tab: the handle in the tab well, and the content that shows while the tab is in front. */
 class SLATE_API SDockTab : public SBorder
 {
 public:
+	DECLARE_DELEGATE_OneParam(FOnTabClosedCallback, TSharedRef<SDockTab>);
+	DECLARE_DELEGATE_RetVal(bool, FCanCloseTab);
+
 	SLATE_BEGIN_ARGS(SDockTab)
 		: _TabRole(ETabRole::PanelTab)
 	{
@@ -47,7 +47,7 @@ public:
 
 	/** The content of the tab, not of the handle. */
 	virtual void SetContent(const TSharedRef<SWidget>& InContent) override;
-	TSharedRef<SWidget> GetContent() const { return TabContent; }
+	TSharedRef<SWidget> GetContent() { return TabContent; }
 
 	FText GetTabLabel() const;
 	void SetLabel(const TAttribute<FText>& InTabLabel);

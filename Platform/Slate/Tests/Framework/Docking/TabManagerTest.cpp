@@ -30,7 +30,7 @@ struct FTabWindow
 	{
 		for (const TSharedRef<SDockTab>& Tab : Manager()->GetLiveTabs())
 		{
-			Tab->SetCanCloseTab(FCanCloseTab());
+			Tab->SetCanCloseTab(SDockTab::FCanCloseTab());
 			Tab->RequestCloseTab();
 		}
 		for (const FName Name : Registered)
@@ -131,11 +131,11 @@ TEST(TabManager, ClosingAsksThenRemovesThenTells)
 	FTabWindow Tabs;
 	Tabs.Register("A");
 	const TSharedPtr<SDockTab> Tab = Manager()->TryInvokeTab(FName("A"));
-	Tab->SetCanCloseTab(FCanCloseTab::CreateLambda([] { return false; }));
+	Tab->SetCanCloseTab(SDockTab::FCanCloseTab::CreateLambda([] { return false; }));
 	EXPECT_FALSE(Tab->RequestCloseTab());
 	EXPECT_TRUE(Manager()->FindExistingLiveTab(FName("A")).IsValid());
 
-	Tab->SetCanCloseTab(FCanCloseTab::CreateLambda([] { return true; }));
+	Tab->SetCanCloseTab(SDockTab::FCanCloseTab::CreateLambda([] { return true; }));
 	EXPECT_TRUE(Tab->RequestCloseTab());
 
 	EXPECT_FALSE(Manager()->FindExistingLiveTab(FName("A")).IsValid());
@@ -258,4 +258,49 @@ TEST(TabManager, TabsThatHaveNoRoomSideBySideShareIt)
 	EXPECT_DOUBLE_EQ(WidthOf(0), WidthOf(11));
 	EXPECT_LT(WidthOf(0), Made[0]->GetDesiredSize().X);
 	EXPECT_LE(WidthOf(12), WidthOf(0));
+}
+
+// FArea::Split takes any layout node.
+TEST(TabManager, AnAreaIsSplitIntoStacksAndSplittersWithStacks)
+{
+	FTabWindow Tabs;
+	for (const FName Name : {"A", "B", "C"})
+	{
+		Tabs.Register(Name);
+	}
+	const auto StackOf = [](FName Name)
+	{
+		return FTabManager::NewStack()->AddTab(Name, ETabState::OpenedTab);
+	};
+	const TSharedRef<FTabManager::FSplitter> Column = FTabManager::NewSplitter()
+														  ->SetOrientation(Orient_Vertical)
+														  ->SetSizeCoefficient(0.25f)
+														  ->Split(StackOf("A"))
+														  ->Split(StackOf("B")->SetSizeCoefficient(3.0f));
+	const TSharedRef<FTabManager::FArea> Area =
+		FTabManager::NewPrimaryArea()->Split(Column)->Split(StackOf("C")->SetSizeCoefficient(0.75f));
+
+	const TSharedPtr<SWidget> Content = Manager()->RestoreFrom(FTabManager::NewLayout("Split")->AddArea(Area), nullptr);
+	FSlateTestWindow Window(Content.ToSharedRef(), FVector2D(800.0, 400.0));
+
+	const auto PlaceOf = [](FName Name)
+	{
+		return Manager()->FindExistingLiveTab(Name)->GetPaintSpaceGeometry().GetAbsolutePosition();
+	};
+	const FVector2D First = PlaceOf("A");
+	EXPECT_EQ(PlaceOf("B") - First, FVector2D(0.0, 100.0));
+	EXPECT_EQ(PlaceOf("C") - First, FVector2D(200.0, 0.0));
+}
+
+TEST(TabManager, AnAreaWithAWindowOpensTheTabsOfItsSplittersToo)
+{
+	FTabWindow Tabs;
+	Tabs.Register("A");
+	Manager()->RestoreFrom(
+		FTabManager::NewLayout("Own")->AddArea(
+			FTabManager::NewArea(FVector2D(300.0, 200.0))
+				->Split(FTabManager::NewSplitter()->Split(FTabManager::NewStack()->AddTab(FName("A"), ETabState::OpenedTab)))),
+		nullptr);
+
+	EXPECT_TRUE(Manager()->FindExistingLiveTab(FName("A")).IsValid());
 }
