@@ -11,7 +11,7 @@ set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 add_compile_options(
 	-fPIC -pthread -fno-exceptions -fno-rtti -fvisibility=hidden -fvisibility-inlines-hidden -fno-strict-aliasing
-	-Wall -Wextra -Wno-unused-parameter -Wno-missing-field-initializers
+	-Wall -Wextra -Wno-unused-parameter -Wno-missing-field-initializers -Wno-invalid-offsetof
 	-fcolor-diagnostics -Xclang -fno-pch-timestamp)
 add_link_options(-pthread -fuse-ld=lld -Wl,--as-needed -Wl,-z,now)
 

@@ -10,5 +10,6 @@ public:
 	SLATE_BEGIN_ARGS(SToolsCompoundWidget) {}
 	SLATE_END_ARGS()
 
+	SToolsCompoundWidget() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs);
 };

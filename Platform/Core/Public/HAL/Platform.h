@@ -18,6 +18,7 @@
 #define UNLIKELY(Condition) __builtin_expect(!!(Condition), 0)
 #define DLLEXPORT __attribute__((visibility("default")))
 #define DLLIMPORT __attribute__((visibility("default")))
+#define NO_API
 #define MS_ALIGN(Bytes)
 #define GCC_ALIGN(Bytes) __attribute__((aligned(Bytes)))
 #define UE_DEPRECATED(Version, Message)

@@ -106,7 +106,7 @@ public:
 	template <typename... ArgTypes>
 	explicit TIntrusiveReferenceController(ArgTypes&&... Args)
 	{
-		new (Storage) ObjectType(std::forward<ArgTypes>(Args)...);
+		::new (static_cast<void*>(Storage)) ObjectType(std::forward<ArgTypes>(Args)...);
 	}
 
 	ObjectType* GetObject() { return std::launder(reinterpret_cast<ObjectType*>(Storage)); }

@@ -6,9 +6,6 @@
 
 // What the header tool's *.gen.cpp files are made of: plain descriptions of types, and the calls that turn them into reflection.
 
-#pragma clang diagnostic ignored "-Winvalid-offsetof"
-#define STRUCT_OFFSET(Struct, Member) offsetof(Struct, Member)
-
 namespace UECodeGen
 {
 /** A C array by pointer and count. */

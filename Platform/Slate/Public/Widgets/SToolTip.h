@@ -11,6 +11,7 @@ public:
 	SLATE_ATTRIBUTE(FText, Text)
 	SLATE_END_ARGS()
 
+	SToolTip() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs);
 
 	virtual TSharedRef<SWidget> AsWidget() override { return AsShared(); }

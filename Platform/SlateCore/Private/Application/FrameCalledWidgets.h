@@ -21,5 +21,5 @@ public:
 	bool IsEmpty() const { return Widgets.Num() == 0; }
 
 private:
-	TArray<SWidget*> Widgets;
+	TSet<SWidget*> Widgets;
 };

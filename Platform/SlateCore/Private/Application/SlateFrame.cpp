@@ -16,7 +16,7 @@ FFrameCalledWidgets& FFrameCalledWidgets::Get()
 
 void FFrameCalledWidgets::Add(SWidget& Widget)
 {
-	Widgets.AddUnique(&Widget);
+	Widgets.Add(&Widget);
 }
 
 void FFrameCalledWidgets::Remove(SWidget& Widget)

@@ -69,6 +69,14 @@ void SlateFrame::UpdateBoundAttributes()
 	FSlateAttributeBinding::UpdateAllDue();
 }
 
+EInvalidateWidgetReason FindInvalidationReason(const SWidget& Widget, const void* Attribute)
+{
+	const PTRINT Offset = static_cast<const uint8*>(Attribute) - reinterpret_cast<const uint8*>(&Widget);
+	const FSlateAttributeDescriptor& Descriptor = Widget.GetWidgetClass().GetAttributeDescriptor();
+	const FSlateAttributeDescriptor::FAttribute* Found = Offset > 0 ? Descriptor.FindMemberAttribute(uint32(Offset)) : nullptr;
+	return Found ? Found->InvalidationReason : EInvalidateWidgetReason::None;
+}
+
 void InvalidateSlateWidget(SWidget& Widget, EInvalidateWidgetReason Reason)
 {
 	Widget.Invalidate(Reason);

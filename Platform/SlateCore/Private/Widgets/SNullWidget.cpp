@@ -7,7 +7,11 @@ namespace
 class SNullWidgetContent final : public SLeafWidget
 {
 public:
-	SNullWidgetContent() { SetTypeOfWidget(TEXT("SNullWidget")); }
+	SNullWidgetContent()
+	{
+		SetTypeOfWidget(TEXT("SNullWidget"));
+		SetCanTick(false);
+	}
 
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle,

@@ -42,12 +42,13 @@ int32 SOverlay::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometr
 {
 	// Every child lies wholly above the one before.
 	int32 HighestLayer = LayerId;
+	const FPaintArgs ChildArgs = Args.WithNewParent(this);
 	for (const SWidget* Child : GetVisibleChildren())
 	{
 		if (Args.GetDamage().Intersects(Child->GetPaintBounds()))
 		{
-			HighestLayer = Child->Paint(
-				Args, MyCullingRect, OutDrawElements, HighestLayer + 1, InWidgetStyle, ShouldBeEnabled(bParentEnabled));
+			HighestLayer = Child->Paint(ChildArgs, Child->GetPaintSpaceGeometry(), MyCullingRect, OutDrawElements,
+				HighestLayer + 1, InWidgetStyle, ShouldBeEnabled(bParentEnabled));
 		}
 	}
 	return HighestLayer;

@@ -13,7 +13,8 @@ SWidget::SWidget()
 	, bNeedsArrange(true)
 	, bDescendantNeedsArrange(false)
 	, bArranged(false)
-	, bCanTick(false)
+	, bCanTick(true)
+	, bCalledInFrames(false)
 	, bIsHovered(false)
 {
 }
@@ -24,14 +25,21 @@ SWidget::~SWidget()
 	{
 		ParentWidget->VisibleChildren.Remove(this);
 	}
-	if (bCanTick || (Extras.IsValid() && Extras->ActiveTimers.Num() > 0))
+	if (bCalledInFrames)
 	{
 		FFrameCalledWidgets::Get().Remove(*this);
 	}
 }
 
+const FSlateWidgetClassData& SWidget::StaticWidgetClass()
+{
+	static const FSlateWidgetClassData WidgetClassData(TEXT("SWidget"));
+	return WidgetClassData;
+}
+
 void SWidget::SWidgetConstruct(const FSlateBaseNamedArgs& Args)
 {
+	UpdateFrameCalls();
 	VisibilityAttribute.Assign(*this, Args._Visibility);
 	EnabledAttribute.Assign(*this, Args._IsEnabled);
 	if (Args._Cursor.IsSet())
@@ -254,15 +262,16 @@ TSharedRef<FActiveTimerHandle> SWidget::RegisterActiveTimer(float TickPeriod, FW
 	const TSharedRef<FActiveTimerHandle> Handle =
 		MakeShared<FActiveTimerHandle>(TickPeriod, MoveTemp(TickFunction), Now + TickPeriod);
 	GetOrMakeExtras().ActiveTimers.Add(Handle);
-	FFrameCalledWidgets::Get().Add(*this);
+	UpdateFrameCalls();
 	return Handle;
 }
 
 void SWidget::UnRegisterActiveTimer(const TSharedRef<FActiveTimerHandle>& ActiveTimerHandle)
 {
-	if (Extras.IsValid() && Extras->ActiveTimers.Remove(ActiveTimerHandle) > 0 && Extras->ActiveTimers.Num() == 0 && !bCanTick)
+	if (Extras.IsValid())
 	{
-		FFrameCalledWidgets::Get().Remove(*this);
+		Extras->ActiveTimers.Remove(ActiveTimerHandle);
+		UpdateFrameCalls();
 	}
 }
 
@@ -299,11 +308,22 @@ double SWidget::GetNextCallTime() const
 void SWidget::SetCanTick(bool bInCanTick)
 {
 	bCanTick = bInCanTick;
-	if (bCanTick)
+	UpdateFrameCalls();
+}
+
+void SWidget::UpdateFrameCalls()
+{
+	const bool bWantsCalls = bCanTick || (Extras.IsValid() && Extras->ActiveTimers.Num() > 0);
+	if (bWantsCalls == bool(bCalledInFrames))
+	{
+		return;
+	}
+	bCalledInFrames = bWantsCalls;
+	if (bWantsCalls)
 	{
 		FFrameCalledWidgets::Get().Add(*this);
 	}
-	else if (!Extras.IsValid() || Extras->ActiveTimers.Num() == 0)
+	else
 	{
 		FFrameCalledWidgets::Get().Remove(*this);
 	}

@@ -1,5 +1,6 @@
 #include "Widgets/SWidget.h"
 
+#include "Application/SlateApplicationBase.h"
 #include "Rendering/SlateDamage.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWindow.h"
@@ -139,6 +140,32 @@ void SWidget::UpdateArrangement(const FGeometry& Geometry, const FSlateRect& Cli
 	}
 	bNeedsArrange = false;
 	bDescendantNeedsArrange = false;
+}
+
+void SWidget::MoveToPaintedPlace(const FGeometry& AllottedGeometry)
+{
+	SWindow* const Window = GetRootWidget().AsWindow();
+	if (!ParentWidget || !Window)
+	{
+		return;
+	}
+	const FSlateRect Clip = ParentWidget->GetClipOfChildren();
+	if (!FSlateRect::DoRectanglesIntersect(RoomOf(AllottedGeometry), Clip))
+	{
+		return;
+	}
+	FSlateDamage Damage;
+	UpdateArrangement(AllottedGeometry, Clip, Damage);
+	ParentWidget->VisibleChildren.AddUnique(this);
+	for (SWidget* Above = ParentWidget; Above; Above = Above->ParentWidget)
+	{
+		Above->PaintBounds = Above->PaintBounds.Expand(PaintBounds);
+	}
+	for (const FSlateRect& Rect : Damage.GetRects())
+	{
+		Window->AddDamage(Rect);
+	}
+	FSlateApplicationBase::Get().RequestFrame();
 }
 
 void SWidget::ArrangeInvalidDescendants(const FSlateRect& ChildClip, FSlateDamage& Damage)

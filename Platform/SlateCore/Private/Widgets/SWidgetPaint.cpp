@@ -7,9 +7,18 @@
 #include "Styling/WidgetStyle.h"
 #include "Types/PaintArgs.h"
 
-int32 SWidget::Paint(const FPaintArgs& Args, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements,
-	int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+int32 SWidget::Paint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
+	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
+	if (!bArranged || AllottedGeometry != PaintSpaceGeometry)
+	{
+		const_cast<SWidget*>(this)->MoveToPaintedPlace(AllottedGeometry);
+	}
+	if (!bArranged || !Args.GetDamage().Intersects(PaintBounds))
+	{
+		return LayerId;
+	}
+
 	const bool bClips = Clipping != EWidgetClipping::Inherit;
 	if (bClips)
 	{
@@ -41,13 +50,12 @@ int32 SWidget::PaintVisibleChildren(const FPaintArgs& Args, const FSlateRect& My
 	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
 	int32 HighestLayer = LayerId;
+	const FPaintArgs ChildArgs = Args.WithNewParent(this);
 	for (const SWidget* Child : VisibleChildren)
 	{
-		if (Args.GetDamage().Intersects(Child->PaintBounds))
-		{
-			HighestLayer = FMath::Max(
-				HighestLayer, Child->Paint(Args, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled));
-		}
+		HighestLayer = FMath::Max(HighestLayer,
+			Child->Paint(
+				ChildArgs, Child->PaintSpaceGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled));
 	}
 	return HighestLayer;
 }

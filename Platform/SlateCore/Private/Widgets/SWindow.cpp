@@ -34,6 +34,7 @@ FVector2D LimitSize(const FVector2D& Size)
 
 SWindow::SWindow()
 {
+	SetCanTick(false);
 	SetClipping(EWidgetClipping::ClipToBounds);
 }
 
@@ -213,9 +214,11 @@ void SWindow::UpdateLayout()
 		FGeometry::MakeRoot(Size / Scale, FSlateLayoutTransform(Scale)), FSlateRect(0.0f, 0.0f, Size.X, Size.Y), Damage);
 }
 
-void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements) const
+void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements)
 {
-	for (const FSlateRect& Rect : Damage.GetRects())
+	const FSlateDamage PaintedDamage = MoveTemp(Damage);
+	Damage.Reset();
+	for (const FSlateRect& Rect : PaintedDamage.GetRects())
 	{
 		OutDrawElements.AddDamage(Rect);
 	}
@@ -224,6 +227,6 @@ void SWindow::PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowEleme
 	const FSlateBrush& Background = *FAppStyle::Get().GetBrush("Window.Background");
 	FSlateDrawElement::MakeBox(OutDrawElements, 0, GetPaintSpaceGeometry().ToPaintGeometry(), &Background, ESlateDrawEffect::None,
 		Background.GetTint(Style));
-	const FPaintArgs Args(Damage, CurrentTime, DeltaTime);
-	Paint(Args, FSlateRect(0.0f, 0.0f, Size.X, Size.Y), OutDrawElements, 1, Style, true);
+	const FPaintArgs Args(nullptr, PaintedDamage, CurrentTime, DeltaTime);
+	Paint(Args, GetPaintSpaceGeometry(), FSlateRect(0.0f, 0.0f, Size.X, Size.Y), OutDrawElements, 1, Style, true);
 }

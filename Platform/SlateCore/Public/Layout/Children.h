@@ -70,8 +70,8 @@ template <typename SlotType>
 class TPanelChildren final : public FChildren
 {
 public:
-	explicit TPanelChildren(SWidget& InOwner)
-		: Owner(InOwner)
+	explicit TPanelChildren(SWidget* InOwner)
+		: Owner(*InOwner)
 	{
 	}
 

@@ -9,6 +9,9 @@ class SWidget;
 /** SWidget::Invalidate for templates that only know the widget by name. */
 SLATECORE_API void InvalidateSlateWidget(SWidget& Widget, EInvalidateWidgetReason Reason);
 
+/** What the widget's class says that a change of the attribute at this address invalidates. */
+SLATECORE_API EInvalidateWidgetReason FindInvalidationReason(const SWidget& Widget, const void* Attribute);
+
 /** A bound attribute of a widget, which the application evaluates once a frame while the widget is visible. */
 class SLATECORE_API FSlateAttributeBinding
 {
@@ -38,22 +41,21 @@ private:
 	EInvalidateWidgetReason Reason;
 };
 
-/**
- * A value of a widget that may be bound to a getter. Unbound it costs its value and one pointer. Storing an equal value
- * invalidates nothing; setting a value replaces a binding.
- *
- * @tparam InvalidationReason What a change of the value invalidates.
- */
+namespace SlateAttributePrivate
+{
+/** An attribute wherever it is kept; see TSlateAttribute. */
 template <typename ObjectType, EInvalidateWidgetReason InvalidationReason>
-class TSlateAttribute
+class TSlateAttributeBase
 {
 public:
-	TSlateAttribute() = default;
-	explicit TSlateAttribute(const ObjectType& InValue)
+	static constexpr bool HasDefinedInvalidationReason = InvalidationReason != EInvalidateWidgetReason::None;
+
+	TSlateAttributeBase() = default;
+	explicit TSlateAttributeBase(const ObjectType& InValue)
 		: Value(InValue)
 	{
 	}
-	explicit TSlateAttribute(ObjectType&& InValue)
+	explicit TSlateAttributeBase(ObjectType&& InValue)
 		: Value(MoveTemp(InValue))
 	{
 	}
@@ -76,7 +78,7 @@ public:
 	{
 		if (Attribute.IsBound())
 		{
-			Binding = MakeUnique<FBinding>(Widget, Value, Attribute);
+			Binding = MakeUnique<FBinding>(Widget, GetReason(Widget), Value, Attribute);
 			Binding->Update();
 		}
 		else if (Attribute.IsSet())
@@ -104,11 +106,16 @@ public:
 		if (!IsIdentical(Value, NewValue))
 		{
 			Value = NewValue;
-			InvalidateSlateWidget(Widget, InvalidationReason);
+			InvalidateSlateWidget(Widget, GetReason(Widget));
 		}
 	}
 
 private:
+	EInvalidateWidgetReason GetReason(const SWidget& Widget) const
+	{
+		return HasDefinedInvalidationReason ? InvalidationReason : FindInvalidationReason(Widget, this);
+	}
+
 	/** Texts are compared by what they show, everything else by its own equality. */
 	static bool IsIdentical(const FText& A, const FText& B) { return A.IdenticalTo(B) || A.EqualTo(B); }
 
@@ -121,8 +128,8 @@ private:
 	class FBinding final : public FSlateAttributeBinding
 	{
 	public:
-		FBinding(SWidget& InWidget, ObjectType& InTarget, const TAttribute<ObjectType>& InSource)
-			: FSlateAttributeBinding(InWidget, InvalidationReason)
+		FBinding(SWidget& InWidget, EInvalidateWidgetReason Reason, ObjectType& InTarget, const TAttribute<ObjectType>& InSource)
+			: FSlateAttributeBinding(InWidget, Reason)
 			, Target(InTarget)
 			, Source(InSource)
 		{
@@ -146,4 +153,32 @@ private:
 
 	ObjectType Value{};
 	TUniquePtr<FBinding> Binding;
+};
+}
+
+/**
+ * A member of a widget that holds a value and may be bound to a getter. Unbound it costs its value and one pointer. Storing an
+ * equal value invalidates nothing; setting a value replaces a binding.
+ *
+ *	TSlateAttribute<FText> Text(*this, FText::GetEmpty());
+ *
+ * @tparam InvalidationReason What a change of the value invalidates. None leaves it to the widget's class, which says so in
+ *         SLATE_ADD_MEMBER_ATTRIBUTE_DEFINITION.
+ */
+template <typename ObjectType, EInvalidateWidgetReason InvalidationReason = EInvalidateWidgetReason::None>
+class TSlateAttribute : public SlateAttributePrivate::TSlateAttributeBase<ObjectType, InvalidationReason>
+{
+	using FBase = SlateAttributePrivate::TSlateAttributeBase<ObjectType, InvalidationReason>;
+
+public:
+	/** @param Widget  The widget whose member this is. */
+	explicit TSlateAttribute(SWidget& Widget) {}
+	TSlateAttribute(SWidget& Widget, const ObjectType& InValue)
+		: FBase(InValue)
+	{
+	}
+	TSlateAttribute(SWidget& Widget, ObjectType&& InValue)
+		: FBase(MoveTemp(InValue))
+	{
+	}
 };

@@ -4,6 +4,7 @@
 #include "Layout/Children.h"
 #include "Misc/Attribute.h"
 #include "Styling/SlateWidgetStyle.h"
+#include "Types/SlateAttributeDescriptor.h"
 #include "Types/SlateNamedArgs.h"
 #include "Widgets/SNullWidget.h"
 
@@ -18,6 +19,44 @@
 #define SAssignNew(ExposeAs, WidgetType, ...) \
 	MakeTDecl<WidgetType>(FSlateTypeText(#WidgetType), RequiredArgs::MakeRequiredArgs(__VA_ARGS__)).Expose(ExposeAs) <<= \
 		typename WidgetType::FArguments()
+
+/**
+ * Tells a widget class to the attribute system; stands first in the class. SLATE_IMPLEMENT_WIDGET goes with it, and a definition
+ * of PrivateRegisterAttributes, which names the class's TSlateAttribute members by SLATE_ADD_MEMBER_ATTRIBUTE_DEFINITION.
+ */
+#define SLATE_DECLARE_WIDGET(WidgetType, ParentType) SLATE_DECLARE_WIDGET_API(WidgetType, ParentType, NO_API)
+
+#define SLATE_DECLARE_WIDGET_API(WidgetType, ParentType, ModuleApiDefine) \
+public: \
+	static ModuleApiDefine const FSlateWidgetClassData& StaticWidgetClass(); \
+	virtual ModuleApiDefine const FSlateWidgetClassData& GetWidgetClass() const override; \
+\
+private: \
+	using Super = ParentType; \
+	using PrivateThisType = WidgetType; \
+	using PrivateParentType = ParentType; \
+	static void PrivateRegisterAttributes(FSlateAttributeInitializer&);
+
+#define SLATE_IMPLEMENT_WIDGET(WidgetType) \
+	const FSlateWidgetClassData& WidgetType::StaticWidgetClass() \
+	{ \
+		static const FSlateWidgetClassData WidgetClassData( \
+			PrivateParentType::StaticWidgetClass(), TEXT(#WidgetType), &WidgetType::PrivateRegisterAttributes); \
+		return WidgetClassData; \
+	} \
+	const FSlateWidgetClassData& WidgetType::GetWidgetClass() const \
+	{ \
+		return StaticWidgetClass(); \
+	}
+
+/** Names a TSlateAttribute member of the class, and what its change invalidates. */
+#define SLATE_ADD_MEMBER_ATTRIBUTE_DEFINITION(Initializer, Property, Reason) \
+	SLATE_ADD_MEMBER_ATTRIBUTE_DEFINITION_WITH_NAME(Initializer, TEXT(#Property), Property, Reason)
+
+#define SLATE_ADD_MEMBER_ATTRIBUTE_DEFINITION_WITH_NAME(Initializer, Name, Property, Reason) \
+	static_assert(!decltype(Property)::HasDefinedInvalidationReason, \
+		"Where SLATE_DECLARE_WIDGET is used, the reason is said here and not in the attribute's type."); \
+	Initializer.AddMemberAttribute(Name, STRUCT_OFFSET(PrivateThisType, Property), Reason)
 
 #define SLATE_BEGIN_ARGS(InWidgetType) \
 public: \

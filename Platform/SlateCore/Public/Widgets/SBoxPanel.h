@@ -42,9 +42,10 @@ public:
 
 protected:
 	explicit SBoxPanel(EOrientation InOrientation)
-		: Children(*this)
+		: Children(this)
 		, Orientation(InOrientation)
 	{
+		SetCanTick(false);
 	}
 
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;

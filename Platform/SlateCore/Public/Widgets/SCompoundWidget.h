@@ -73,6 +73,6 @@ protected:
 	FCompoundWidgetSlot ChildSlot;
 
 private:
-	TSlateAttribute<FLinearColor, EInvalidateWidgetReason::Paint> ColorAndOpacityAttribute{FLinearColor::White};
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundColorAttribute{FSlateColor::UseForeground()};
+	TSlateAttribute<FLinearColor, EInvalidateWidgetReason::Paint> ColorAndOpacityAttribute{*this, FLinearColor::White};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundColorAttribute{*this, FSlateColor::UseForeground()};
 };

@@ -20,8 +20,9 @@ public:
 	SLATE_END_ARGS()
 
 	SOverlay()
-		: Children(*this)
+		: Children(this)
 	{
+		SetCanTick(false);
 	}
 	void Construct(const FArguments& InArgs);
 

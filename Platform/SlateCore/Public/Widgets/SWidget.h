@@ -12,8 +12,10 @@
 #include "Layout/Visibility.h"
 #include "Types/ISlateMetaData.h"
 #include "Types/SlateAttribute.h"
+#include "Types/SlateAttributeDescriptor.h"
 #include "Types/WidgetActiveTimerDelegate.h"
 #include "Widgets/InvalidateWidgetReason.h"
+#include "Widgets/SlateControlledConstruction.h"
 
 class FActiveTimerHandle;
 class FPaintArgs;
@@ -33,13 +35,14 @@ struct FSlateWidgetExtras;
  * frame gave to a widget stays in it (GetPaintSpaceGeometry, GetTickSpaceGeometry), and so does the list of the children
  * that were within sight, which painting and hit testing walk.
  */
-class SLATECORE_API SWidget : public TSharedFromThis<SWidget>
+class SLATECORE_API SWidget : public FSlateControlledConstruction, public TSharedFromThis<SWidget>
 {
 public:
-	virtual ~SWidget();
+	virtual ~SWidget() override;
 
-	SWidget(const SWidget&) = delete;
-	SWidget& operator=(const SWidget&) = delete;
+	/** The class as far as SLATE_DECLARE_WIDGET told of it; without that, the nearest parent's. */
+	static const FSlateWidgetClassData& StaticWidgetClass();
+	virtual const FSlateWidgetClassData& GetWidgetClass() const { return StaticWidgetClass(); }
 
 	/** The arguments that every widget takes. Called by the declarative syntax before Construct. */
 	void SWidgetConstruct(const FSlateBaseNamedArgs& Args);
@@ -61,9 +64,15 @@ public:
 	 */
 	void UpdateArrangement(const FGeometry& Geometry, const FSlateRect& Clip, FSlateDamage& Damage);
 
-	/** Paints the widget and those below it that meet the damage of Args. @return The highest layer used. */
-	int32 Paint(const FPaintArgs& Args, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId,
-		const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const;
+	/**
+	 * Paints the widget and those below it, as far as they meet the damage of Args.
+	 *
+	 * @param AllottedGeometry Where, in window space: what the parent's OnArrangeChildren gave the widget. A widget that is painted
+	 *        elsewhere moves there.
+	 * @return The highest layer used.
+	 */
+	int32 Paint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
+		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const;
 
 	void ArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
 	{
@@ -158,7 +167,10 @@ public:
 	/** The time at which the widget wants to be called next; beyond all time when it does not. */
 	double GetNextCallTime() const;
 
-	/** Called once a frame while the widget is shown, if SetCanTick said so. */
+	/**
+	 * Called once a frame while the widget is shown, unless SetCanTick(false) was said. A widget that ticks keeps frames coming, so
+	 * one that needs no ticks says so in its constructor.
+	 */
 	virtual void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) {}
 	void SetCanTick(bool bInCanTick);
 	bool GetCanTick() const { return bCanTick; }
@@ -227,12 +239,14 @@ protected:
 
 	/** Sets an attribute of the widget, or binds it; see TSlateAttribute. */
 	template <typename ObjectType, EInvalidateWidgetReason Reason>
-	void SetAttribute(TSlateAttribute<ObjectType, Reason>& Member, const TAttribute<ObjectType>& Value)
+	void SetAttribute(SlateAttributePrivate::TSlateAttributeBase<ObjectType, Reason>& Member, const TAttribute<ObjectType>& Value)
 	{
 		Member.Assign(*this, Value);
 	}
 
 private:
+	void UpdateFrameCalls();
+	void MoveToPaintedPlace(const FGeometry& AllottedGeometry);
 	void MarkPrepassUpwards();
 	void AddDamage(const FSlateRect& Rect);
 	FSlateRect RoomOf(const FGeometry& Geometry) const;
@@ -254,8 +268,8 @@ private:
 	FSlateRect ClipRect;
 	FSlateRect PaintBounds;
 	FVector2D DesiredSize = FVector2D::ZeroVector;
-	TSlateAttribute<EVisibility, EInvalidateWidgetReason::Visibility> VisibilityAttribute;
-	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> EnabledAttribute{true};
+	TSlateAttribute<EVisibility, EInvalidateWidgetReason::Visibility> VisibilityAttribute{*this};
+	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> EnabledAttribute{*this, true};
 	float PrepassScale = 0.0f;
 	EWidgetClipping Clipping = EWidgetClipping::Inherit;
 
@@ -264,6 +278,7 @@ private:
 	uint8 bDescendantNeedsArrange : 1;
 	uint8 bArranged : 1;
 	uint8 bCanTick : 1;
+	uint8 bCalledInFrames : 1;
 
 protected:
 	uint8 bIsHovered : 1;

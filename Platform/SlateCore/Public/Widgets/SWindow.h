@@ -105,15 +105,14 @@ public:
 	const FSlateDamage& GetDamage() const { return Damage; }
 	void AddDamage(const FSlateRect& Rect) { Damage.Add(Rect); }
 	void DamageAll();
-	void ClearDamage() { Damage.Reset(); }
 
-	/** Paints the damage into a list. */
-	void PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements) const;
+	/** Paints the damage into a list. What is damaged meanwhile is left for the next frame. */
+	void PaintWindow(double CurrentTime, float DeltaTime, FSlateWindowElementList& OutDrawElements);
 
 	virtual SWindow* AsWindow() override { return this; }
 
 private:
-	TSlateAttribute<FText, EInvalidateWidgetReason::None> Title;
+	TSlateAttribute<FText, EInvalidateWidgetReason::None> Title{*this};
 	TSharedPtr<SOverlay> Layers;
 	SOverlay::FOverlaySlot* ContentSlot = nullptr;
 	TSharedPtr<FGenericWindow> NativeWindow;

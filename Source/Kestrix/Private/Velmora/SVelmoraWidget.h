@@ -18,6 +18,7 @@ public:
 	SLATE_ARGUMENT(UVelmoraData*, DataObj)
 	SLATE_END_ARGS()
 
+	SVelmoraWidget() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs);
 
 	/** Absolute path of the tool description, which is also the tool's identity. */

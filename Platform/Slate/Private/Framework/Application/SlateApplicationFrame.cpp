@@ -88,7 +88,6 @@ bool FSlateApplication::DrawWindows(const TArray<TSharedRef<SWindow>>& ToDraw)
 		{
 			Window->PaintWindow(
 				CurrentTime, static_cast<float>(FApp::GetDeltaTime()), Buffer.AddWindowElementList(&Window.Get()));
-			Window->ClearDamage();
 		}
 	}
 	if (Buffer.GetNumWindows() == 0)

@@ -14,6 +14,7 @@ public:
 	SLATE_BEGIN_ARGS(SDockingTabStack) {}
 	SLATE_END_ARGS()
 
+	SDockingTabStack() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs);
 
 	void AddTab(const TSharedRef<SDockTab>& Tab);

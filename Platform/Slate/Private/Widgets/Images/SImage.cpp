@@ -5,8 +5,9 @@
 #include "Styling/WidgetStyle.h"
 
 SImage::SImage()
-	: Image(FStyleDefaults::GetDefaultBrush())
+	: Image(*this, FStyleDefaults::GetDefaultBrush())
 {
+	SetCanTick(false);
 }
 
 void SImage::Construct(const FArguments& InArgs)

@@ -24,6 +24,7 @@ public:
 	SLATE_BEGIN_ARGS(SCheckBoxMark) { _Visibility = EVisibility::HitTestInvisible; }
 	SLATE_END_ARGS()
 
+	SCheckBoxMark() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs, const SCheckBox* InOwner) { Owner = InOwner; }
 
 private:
@@ -50,6 +51,7 @@ private:
 SCheckBox::SCheckBox()
 	: Style(&GetDefaultCheckBoxStyle())
 {
+	SetCanTick(false);
 }
 
 void SCheckBox::Construct(const FArguments& InArgs)

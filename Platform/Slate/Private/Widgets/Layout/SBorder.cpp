@@ -5,8 +5,9 @@
 #include "Styling/WidgetStyle.h"
 
 SBorder::SBorder()
-	: BorderImage(FAppStyle::Get().GetBrush("Border"))
+	: BorderImage(*this, FAppStyle::Get().GetBrush("Border"))
 {
+	SetCanTick(false);
 }
 
 void SBorder::Construct(const FArguments& InArgs)

@@ -23,8 +23,9 @@ double LimitRoom(const FOptionalSize& Max, double Room)
 }
 
 SBox::SBox()
+	: ChildSlot(*this)
 {
-	SetVisibility(EVisibility::SelfHitTestInvisible);
+	SetCanTick(false);
 }
 
 void SBox::Construct(const FArguments& InArgs)
@@ -40,11 +41,12 @@ void SBox::Construct(const FArguments& InArgs)
 
 FVector2D SBox::ComputeDesiredSize(float LayoutScaleMultiplier) const
 {
-	if (ChildSlot.GetWidget()->GetVisibility() == EVisibility::Collapsed)
+	const SWidget& Child = ChildSlot.GetWidget().Get();
+	if (Child.GetVisibility() == EVisibility::Collapsed)
 	{
 		return FVector2D::ZeroVector;
 	}
-	const FVector2D Desired = SCompoundWidget::ComputeDesiredSize(LayoutScaleMultiplier);
+	const FVector2D Desired = Child.GetDesiredSize() + ChildSlot.GetPadding().GetDesiredSize();
 	return FVector2D(DecideSize(WidthOverride.Get(), MinDesiredWidth.Get(), MaxDesiredWidth.Get(), Desired.X),
 		DecideSize(HeightOverride.Get(), MinDesiredHeight.Get(), MaxDesiredHeight.Get(), Desired.Y));
 }

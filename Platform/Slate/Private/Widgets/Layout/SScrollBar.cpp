@@ -68,16 +68,15 @@ void SScrollBar::ScrollThumbTo(const FGeometry& Geometry, float ThumbStart)
 	}
 }
 
+const FSlateBrush* SScrollBar::GetBorder() const
+{
+	return Orientation == Orient_Vertical ? &Style->VerticalBackgroundImage : &Style->HorizontalBackgroundImage;
+}
+
 int32 SScrollBar::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
-	const FSlateBrush& Background =
-		Orientation == Orient_Vertical ? Style->VerticalBackgroundImage : Style->HorizontalBackgroundImage;
-	if (Background.DrawAs != ESlateBrushDrawType::NoDrawType)
-	{
-		FSlateDrawElement::MakeBox(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), &Background,
-			ESlateDrawEffect::None, Background.GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint());
-	}
+	LayerId = SBorder::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
 	if (!IsNeeded())
 	{
 		return LayerId;
@@ -144,12 +143,12 @@ void SScrollBar::OnMouseCaptureLost()
 
 void SScrollBar::OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	SLeafWidget::OnMouseEnter(MyGeometry, MouseEvent);
+	SBorder::OnMouseEnter(MyGeometry, MouseEvent);
 	Invalidate(EInvalidateWidgetReason::Paint);
 }
 
 void SScrollBar::OnMouseLeave(const FPointerEvent& MouseEvent)
 {
-	SLeafWidget::OnMouseLeave(MouseEvent);
+	SBorder::OnMouseLeave(MouseEvent);
 	Invalidate(EInvalidateWidgetReason::Paint);
 }

@@ -11,8 +11,9 @@ public:
 	SLATE_END_ARGS()
 
 	SScrollPanel()
-		: Children(*this)
+		: Children(this)
 	{
+		SetCanTick(false);
 	}
 	void Construct(const FArguments& InArgs, EOrientation InOrientation);
 

@@ -44,6 +44,7 @@ SEditableTextBase::SEditableTextBase(bool bMultiLine)
 	, bCaretStaysLit(false)
 	, bFramed(false)
 {
+	SetCanTick(false);
 	SetClipping(EWidgetClipping::ClipToBounds);
 }
 

@@ -19,7 +19,7 @@ struct TOverride
 	{
 	}
 
-	TSlateAttribute<ValueType, Reason> Value;
+	SlateAttributePrivate::TSlateAttributeBase<ValueType, Reason> Value;
 	bool bIsSet = false;
 };
 }
@@ -77,7 +77,11 @@ const STextBlock::FOverrides& STextBlock::GetOverrides() const
 	return Overrides.IsValid() ? *Overrides : GetDefaults();
 }
 
-STextBlock::STextBlock() = default;
+STextBlock::STextBlock()
+{
+	SetCanTick(false);
+}
+
 STextBlock::~STextBlock() = default;
 
 void STextBlock::Construct(const FArguments& InArgs)

@@ -25,6 +25,6 @@ protected:
 		bool bParentEnabled) const override;
 
 private:
-	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Layout> Image;
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAndOpacity{FSlateColor(FLinearColor::White)};
+	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Layout> Image{*this};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAndOpacity{*this, FSlateColor(FLinearColor::White)};
 };

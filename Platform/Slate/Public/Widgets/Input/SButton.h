@@ -65,7 +65,7 @@ private:
 	FReply Click();
 
 	const FButtonStyle* Style;
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundOverride{FSlateColor::UseStyle()};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundOverride{*this, FSlateColor::UseStyle()};
 	FOnClicked OnClicked;
 	FMargin ContentPadding;
 	bool bIsPressed = false;

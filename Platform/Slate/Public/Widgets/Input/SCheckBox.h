@@ -61,8 +61,8 @@ private:
 	void SetPressed(bool bInPressed);
 
 	const FCheckBoxStyle* Style;
-	TSlateAttribute<ECheckBoxState, EInvalidateWidgetReason::Paint> State{ECheckBoxState::Unchecked};
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundOverride{FSlateColor::UseStyle()};
+	TSlateAttribute<ECheckBoxState, EInvalidateWidgetReason::Paint> State{*this, ECheckBoxState::Unchecked};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ForegroundOverride{*this, FSlateColor::UseStyle()};
 	FOnCheckStateChanged OnCheckStateChanged;
 	FBoxPanelSlot* ContentSlot = nullptr;
 	bool bIsPressed = false;

@@ -55,8 +55,8 @@ protected:
 
 private:
 	const FEditableTextStyle* Style = nullptr;
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAndOpacity;
-	TSlateAttribute<float, EInvalidateWidgetReason::Layout> MinDesiredWidth{0.0f};
-	TSlateAttribute<bool, EInvalidateWidgetReason::Layout> IsPassword{false};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAndOpacity{*this};
+	TSlateAttribute<float, EInvalidateWidgetReason::Layout> MinDesiredWidth{*this, 0.0f};
+	TSlateAttribute<bool, EInvalidateWidgetReason::Layout> IsPassword{*this, false};
 	bool bColorIsSet = false;
 };

@@ -65,7 +65,7 @@ private:
 	FSlateBrush FocusedReadOnlyImage;
 
 	/** The same as the field's; here a change repaints the frame. */
-	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsFrameReadOnly{false};
+	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsFrameReadOnly{*this, false};
 	bool bFontIsSet = false;
 	bool bBackgroundColorIsSet = false;
 };

@@ -46,6 +46,6 @@ protected:
 	virtual const FSlateBrush* GetBorder() const { return BorderImage.Get(); }
 
 private:
-	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Paint> BorderImage;
-	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> BorderBackgroundColor{FSlateColor(FLinearColor::White)};
+	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Paint> BorderImage{*this};
+	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> BorderBackgroundColor{*this, FSlateColor(FLinearColor::White)};
 };

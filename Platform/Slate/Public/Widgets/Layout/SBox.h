@@ -2,9 +2,10 @@
 
 #include "Types/SlateStructs.h"
 #include "Widgets/SCompoundWidget.h"
+#include "Widgets/SPanel.h"
 
 /** One child, with sizes of the box's own in place of what the child desires. All sizes are slate units. */
-class SLATE_API SBox : public SCompoundWidget
+class SLATE_API SBox : public SPanel
 {
 public:
 	SLATE_BEGIN_ARGS(SBox)
@@ -38,17 +39,21 @@ public:
 	void SetMaxDesiredWidth(const TAttribute<FOptionalSize>& InValue) { SetAttribute(MaxDesiredWidth, InValue); }
 	void SetMaxDesiredHeight(const TAttribute<FOptionalSize>& InValue) { SetAttribute(MaxDesiredHeight, InValue); }
 
+	virtual FChildren* GetChildren() override { return &ChildSlot; }
+
 protected:
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 
+	FCompoundWidgetSlot ChildSlot;
+
 private:
 	using FSizeAttribute = TSlateAttribute<FOptionalSize, EInvalidateWidgetReason::Layout>;
 
-	FSizeAttribute WidthOverride;
-	FSizeAttribute HeightOverride;
-	FSizeAttribute MinDesiredWidth;
-	FSizeAttribute MinDesiredHeight;
-	FSizeAttribute MaxDesiredWidth;
-	FSizeAttribute MaxDesiredHeight;
+	FSizeAttribute WidthOverride{*this};
+	FSizeAttribute HeightOverride{*this};
+	FSizeAttribute MinDesiredWidth{*this};
+	FSizeAttribute MinDesiredHeight{*this};
+	FSizeAttribute MaxDesiredWidth{*this};
+	FSizeAttribute MaxDesiredHeight{*this};
 };

@@ -2,13 +2,13 @@
 
 #include "Framework/SlateDelegates.h"
 #include "Styling/SlateTypes.h"
-#include "Widgets/SLeafWidget.h"
+#include "Widgets/Layout/SBorder.h"
 
 /**
  * A bar whose thumb shows which part of a content is in view, and moves it: the thumb can be dragged, a press beside it
  * moves by a page. It takes no room while everything is in view, unless told to show always.
  */
-class SLATE_API SScrollBar : public SLeafWidget
+class SLATE_API SScrollBar : public SBorder
 {
 public:
 	SLATE_BEGIN_ARGS(SScrollBar)
@@ -44,6 +44,7 @@ public:
 
 protected:
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
+	virtual const FSlateBrush* GetBorder() const override;
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle,
 		bool bParentEnabled) const override;

@@ -33,6 +33,7 @@ public:
 	SLATE_ARGUMENT(bool, ScrollBarAlwaysVisible)
 	SLATE_END_ARGS()
 
+	SScrollBox() { SetCanTick(false); }
 	void Construct(const FArguments& InArgs);
 
 	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(); }

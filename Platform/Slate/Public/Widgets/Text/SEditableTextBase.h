@@ -167,10 +167,10 @@ private:
 	TUniquePtr<FTextEditor> Editor;
 	TUniquePtr<FFontOfRows> FontOfRows;
 	TUniquePtr<FBoundText> BoundText;
-	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintText;
-	TSlateAttribute<FSlateFontInfo, EInvalidateWidgetReason::Layout> Font;
-	TSlateAttribute<ETextJustify::Type, EInvalidateWidgetReason::Layout> Justification{ETextJustify::Left};
-	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsReadOnly{false};
+	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> HintText{*this};
+	TSlateAttribute<FSlateFontInfo, EInvalidateWidgetReason::Layout> Font{*this};
+	TSlateAttribute<ETextJustify::Type, EInvalidateWidgetReason::Layout> Justification{*this, ETextJustify::Left};
+	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsReadOnly{*this, false};
 	TAttribute<bool> SelectAllTextWhenFocused = false;
 	TAttribute<bool> ClearKeyboardFocusOnCommit = true;
 	TAttribute<bool> RevertTextOnEscape = false;

@@ -85,9 +85,10 @@ private:
 	const FTextBlockStyle* TextStyle = nullptr;
 	TSharedPtr<SScrollBar> HScrollBar;
 	TSharedPtr<SScrollBar> VScrollBar;
-	TSlateAttribute<float, EInvalidateWidgetReason::Layout> WrapTextAt{0.0f};
-	TSlateAttribute<bool, EInvalidateWidgetReason::Layout> AutoWrapText{false};
-	TSlateAttribute<ETextWrappingPolicy, EInvalidateWidgetReason::Layout> WrappingPolicy{ETextWrappingPolicy::DefaultWrapping};
-	TSlateAttribute<float, EInvalidateWidgetReason::Layout> LineHeightPercentage{1.0f};
-	TSlateAttribute<FMargin, EInvalidateWidgetReason::Layout> Margin;
+	TSlateAttribute<float, EInvalidateWidgetReason::Layout> WrapTextAt{*this, 0.0f};
+	TSlateAttribute<bool, EInvalidateWidgetReason::Layout> AutoWrapText{*this, false};
+	TSlateAttribute<ETextWrappingPolicy, EInvalidateWidgetReason::Layout> WrappingPolicy{
+		*this, ETextWrappingPolicy::DefaultWrapping};
+	TSlateAttribute<float, EInvalidateWidgetReason::Layout> LineHeightPercentage{*this, 1.0f};
+	TSlateAttribute<FMargin, EInvalidateWidgetReason::Layout> Margin{*this};
 };

@@ -113,7 +113,7 @@ private:
 	void PaintRow(const FString& Row, const FVector2D& Position, const FGeometry& Geometry,
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bEnabled) const;
 
-	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> Text;
+	TSlateAttribute<FText, EInvalidateWidgetReason::Layout> Text{*this};
 	const FTextBlockStyle* TextStyle;
 
 	/** Set once something differs from the style and the defaults: most labels have just a text. */
