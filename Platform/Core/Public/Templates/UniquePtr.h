@@ -63,7 +63,7 @@ public:
 	friend bool operator!=(const TUniquePtr& Left, const TUniquePtr& Right) { return Left.Get() != Right.Get(); }
 	friend bool operator==(const TUniquePtr& Left, decltype(nullptr)) { return !Left.IsValid(); }
 	friend bool operator!=(const TUniquePtr& Left, decltype(nullptr)) { return Left.IsValid(); }
-	friend uint32 GetTypeHash(const TUniquePtr& Pointer) { return PointerHash(Pointer.Get()); }
+	friend uint32 GetTypeHash(const TUniquePtr& Owner) { return PointerHash(Owner.Get()); }
 
 private:
 	template <typename, typename>
