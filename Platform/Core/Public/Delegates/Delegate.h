@@ -10,7 +10,7 @@
  */
 
 #include "Delegates/DelegateCombinations.h"
-#include "Delegates/DelegateSignatureImpl.h"
+#include "Delegates/DelegateSignatureImpl.inl"
 #include "Delegates/IDelegateInstance.h"
 
 using FSimpleDelegate = TDelegate<void()>;
