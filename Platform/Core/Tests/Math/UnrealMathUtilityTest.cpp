@@ -33,6 +33,11 @@ TEST(Math, FloorCeilAndTruncDifferBelowZero)
 	EXPECT_EQ(FMath::CeilToInt(1.1f), 2);
 }
 
+// The constant is PI; UE_PI came later.
+#if defined(UE_PI) || !defined(PI)
+#error "The engine of this version has PI"
+#endif
+
 TEST(Math, MinMaxAndClampOfOneType)
 {
 	EXPECT_EQ(FMath::Max(1, 2), 2);
