@@ -6,11 +6,24 @@
 #include "SlateTestWindow.h"
 #include "Styling/CoreStyle.h"
 #include "Types/PaintArgs.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SEditableText.h"
+#include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/Input/SMultiLineEditableTextBox.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/Layout/SScrollBar.h"
+#include "Widgets/Layout/SScrollBox.h"
+#include "Widgets/SBoxPanel.h"
 #include "Widgets/SCompoundWidget.h"
 #include "Widgets/SLeafWidget.h"
+#include "Widgets/SOverlay.h"
 #include "Widgets/SPanel.h"
+#include "Widgets/SToolTip.h"
+#include "Widgets/Text/SMultiLineEditableText.h"
+#include "Widgets/Text/STextBlock.h"
 
 // Widgets as a tool's author writes them for the engine: made by SNew, SLATE_DECLARE_WIDGET with TSlateAttribute(*this, ...),
 // children painted with Args.WithNewParent(this).
@@ -378,6 +391,19 @@ TEST(OwnWidget, TicksInEveryFrameUnlessToldOtherwise)
 	Window.Wait(1.0);
 	EXPECT_EQ(FSlateApplication::Get().GetNumFrames(), Frames);
 	EXPECT_EQ(Still->NumTicks, 0);
+}
+
+// An idle editor stays idle all the same: widgets of ours say SetCanTick(false).
+TEST(OwnWidget, WidgetsOfThePlatformDoNotTick)
+{
+	const TSharedRef<SWidget> Widgets[] = {SNew(SBorder), SNew(SBox), SNew(SButton), SNew(SCheckBox), SNew(SDockTab),
+		SNew(SEditableText), SNew(SEditableTextBox), SNew(SHorizontalBox), SNew(SImage), SNew(SMultiLineEditableText),
+		SNew(SMultiLineEditableTextBox), SNew(SOverlay), SNew(SScrollBar), SNew(SScrollBox), SNew(STextBlock), SNew(SToolTip),
+		SNew(SVerticalBox), SNew(SWindow), SNullWidget::NullWidget};
+	for (const TSharedRef<SWidget>& Widget : Widgets)
+	{
+		EXPECT_FALSE(Widget->GetCanTick()) << TCHAR_TO_UTF8(*Widget->GetTypeAsString());
+	}
 }
 
 // The members of FGeometry are const; a geometry is replaced as a whole.
