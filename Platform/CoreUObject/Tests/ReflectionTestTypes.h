@@ -56,6 +56,42 @@ struct FTestTriple : public FTestPair
 	bool operator==(const FTestTriple& Other) const { return Third == Other.Third; }
 };
 
+/** Like the vectors of Core: without arguments its numbers stay unset. */
+USTRUCT()
+struct FTestForced
+{
+	GENERATED_BODY()
+
+	FTestForced() {}
+	explicit FTestForced(int64 InNumber)
+		: Number(InNumber + 1)
+	{
+	}
+	explicit FTestForced(EForceInit)
+		: Number(0)
+	{
+	}
+
+	UPROPERTY()
+	int64 Number;
+};
+
+/** Has no constructor that forces; one number must not be taken for it. */
+USTRUCT()
+struct FTestUnforced
+{
+	GENERATED_BODY()
+
+	FTestUnforced() = default;
+	FTestUnforced(int64 InNumber)
+		: Number(InNumber)
+	{
+	}
+
+	UPROPERTY()
+	int64 Number = 4;
+};
+
 /**
  * One property of each kind.
  *

@@ -62,11 +62,21 @@ public:
 	virtual void Empty(void* Map, int32 Slack) const = 0;
 };
 
+/** Becomes an EForceInit and nothing else: whoever takes it has a constructor for just that. */
+struct FForceInitOnly
+{
+	template <typename T, typename = std::enable_if_t<std::is_same_v<T, EForceInit>>>
+	operator T() const
+	{
+		return ForceInit;
+	}
+};
+
 /** A value as reflection makes it: what the constructor of a vector or colour leaves unset is zero. */
 template <typename T>
 T MakeZeroedValue()
 {
-	if constexpr (std::is_class_v<T> && std::is_constructible_v<T, EForceInit>)
+	if constexpr (std::is_class_v<T> && std::is_constructible_v<T, FForceInitOnly>)
 	{
 		return T(ForceInit);
 	}

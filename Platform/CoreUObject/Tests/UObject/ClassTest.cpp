@@ -241,6 +241,15 @@ TEST(DynamicFunction, RunsTheBodyThatItWasGiven)
 	EXPECT_NE(Object->FindFunction(TEXT("Add")), nullptr);
 }
 
+TEST(NativeStruct, NumbersThatCppLeavesUnsetAreForced)
+{
+	int64 Memory = 77;
+	FTestForced::StaticStruct()->InitializeStruct(&Memory);
+	EXPECT_EQ(Memory, 0);
+	FTestUnforced::StaticStruct()->InitializeStruct(&Memory);
+	EXPECT_EQ(Memory, 4);
+}
+
 TEST(DynamicStruct, MembersAreLaidOutAndCopied)
 {
 	UScriptStruct* const Struct = NewObject<UScriptStruct>(GetTransientPackage(), TEXT("Made"), RF_Public);
