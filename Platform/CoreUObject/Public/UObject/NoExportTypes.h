@@ -25,7 +25,9 @@ struct UECodeGen::TStructText<FGuid>
 #include "NoExportTypes.generated.h"
 
 /** A point or direction in space, in centimetres where it is a place. */
-USTRUCT(noexport, BlueprintType, meta = (ScriptName = "Vector"))
+USTRUCT(noexport, BlueprintType,
+	meta = (ScriptName = "Vector", HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector"))
 struct FVector
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector)
@@ -39,7 +41,9 @@ struct FVector
 };
 
 /** A point, direction or size in the plane. */
-USTRUCT(noexport, BlueprintType, meta = (ScriptName = "Vector2D"))
+USTRUCT(noexport, BlueprintType,
+	meta = (ScriptName = "Vector2D", HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector2D",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector2D"))
 struct FVector2D
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector2D)
@@ -50,7 +54,9 @@ struct FVector2D
 };
 
 /** A rotation in degrees. */
-USTRUCT(noexport, BlueprintType, meta = (ScriptName = "Rotator"))
+USTRUCT(noexport, BlueprintType,
+	meta = (ScriptName = "Rotator", HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeRotator",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakRotator"))
 struct FRotator
 {
 	/** Around the right axis: up and down. */
@@ -129,13 +135,17 @@ struct FGuid
 };
 
 /** A date and time of day. */
-USTRUCT(noexport, BlueprintType)
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeDateTime",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakDateTime"))
 struct FDateTime
 {
 };
 
 /** A length of time. */
-USTRUCT(noexport, BlueprintType)
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeTimespan",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakTimespan"))
 struct FTimespan
 {
 };
