@@ -46,8 +46,11 @@ private:
 	uint8* const Memory;
 };
 
-FPythonFunction::FPythonFunction(UFunction* InFunction, const FString& InName, const FString& InDeprecationMessage)
+FPythonFunction::FPythonFunction(
+	UFunction* InFunction, EForm InForm, const FString& InPlace, const FString& InName, const FString& InDeprecationMessage)
 	: Function(InFunction)
+	, Form(InForm)
+	, Place(InPlace)
 	, Name(InName)
 	, DeprecationMessage(InDeprecationMessage)
 {
@@ -65,9 +68,9 @@ FPythonFunction::~FPythonFunction()
 	}
 }
 
-TUniquePtr<FPythonFunction> FPythonFunction::Make(UFunction* Function, const FString& Name, const FString& DeprecationMessage)
+TUniquePtr<FPythonFunction> FPythonFunction::Finish(FPythonFunction* Unfinished)
 {
-	TUniquePtr<FPythonFunction> Result(new FPythonFunction(Function, Name, DeprecationMessage));
+	TUniquePtr<FPythonFunction> Result(Unfinished);
 	if (!Result->AddParameters())
 	{
 		return nullptr;
@@ -76,9 +79,38 @@ TUniquePtr<FPythonFunction> FPythonFunction::Make(UFunction* Function, const FSt
 	return Result;
 }
 
+static FString PlaceOf(const FString& OwnerName, const FString& Name)
+{
+	return OwnerName + TEXT(".") + Name + TEXT("()");
+}
+
+TUniquePtr<FPythonFunction> FPythonFunction::Make(UFunction* Function, const FString& Name, const FString& DeprecationMessage)
+{
+	const FString Place = PlaceOf(PythonNaming::NameOf(Function->GetOwnerClass()), Name);
+	return Finish(new FPythonFunction(Function, EForm::Function, Place, Name, DeprecationMessage));
+}
+
+TUniquePtr<FPythonFunction> FPythonFunction::MakeMethod(
+	UFunction* Function, const FString& OwnerName, const FString& Name, const FString& DeprecationMessage)
+{
+	TUniquePtr<FPythonFunction> Result =
+		Finish(new FPythonFunction(Function, EForm::Method, PlaceOf(OwnerName, Name), Name, DeprecationMessage));
+	return Result && Result->Self ? MoveTemp(Result) : nullptr;
+}
+
+TUniquePtr<FPythonFunction> FPythonFunction::MakeConstructor(UFunction* Function, const FString& TypeName)
+{
+	return Finish(new FPythonFunction(Function, EForm::Constructor, TypeName + TEXT("()"), TypeName, FString()));
+}
+
 bool FPythonFunction::IsStatic() const
 {
-	return Function->HasAnyFunctionFlags(FUNC_Static);
+	return Function->HasAnyFunctionFlags(FUNC_Static) && !Self;
+}
+
+UObject* FPythonFunction::DefaultTarget() const
+{
+	return Function->GetOwnerClass()->GetDefaultObject();
 }
 
 bool FPythonFunction::AddParameters()
@@ -130,6 +162,10 @@ bool FPythonFunction::AddParameter(FProperty* Property)
 	// A constant reference may carry the out flag too. One marked as reference goes in and comes back.
 	const bool bIsOutput = Property->HasAnyPropertyFlags(CPF_OutParm) && !Property->HasAnyPropertyFlags(CPF_ConstParm);
 	const bool bIsInput = !bIsOutput || Property->HasAnyPropertyFlags(CPF_ReferenceParm);
+	if (Form == EForm::Method && !Self)
+	{
+		return AddSelf(MoveTemp(Parameter), bIsInput, bIsOutput);
+	}
 	if (bIsInput && bIsOutput)
 	{
 		FParameter Output = Describe(Property);
@@ -138,6 +174,38 @@ bool FPythonFunction::AddParameter(FProperty* Property)
 	}
 	(bIsInput ? Inputs : Outputs).Add(MoveTemp(Parameter));
 	return true;
+}
+
+bool FPythonFunction::AddSelf(FParameter&& Parameter, bool bIsInput, bool bIsOutput)
+{
+	Self = MakeUnique<FParameter>(MoveTemp(Parameter));
+	bChangesSelf = bIsOutput || Function->HasMetaData(TEXT("ScriptMethodMutable"));
+	return bIsInput;
+}
+
+const FPythonFunction::FParameter* FPythonFunction::FindNewSelf() const
+{
+	if (Self && Return && Function->HasMetaData(TEXT("ScriptMethodSelfReturn")))
+	{
+		return Return.Get();
+	}
+	return bChangesSelf ? Self.Get() : nullptr;
+}
+
+const FPythonFunction::FParameter* FPythonFunction::FindShownReturn() const
+{
+	return Success || FindNewSelf() == Return.Get() ? nullptr : Return.Get();
+}
+
+void FPythonFunction::UpdateSelf(PyObject* SelfValue, const uint8* Block) const
+{
+	const FParameter* const NewSelf = FindNewSelf();
+	const FStructProperty* const Property = NewSelf ? CastField<FStructProperty>(NewSelf->Property) : nullptr;
+	const UScriptStruct* const Struct = Property ? PythonStruct::StructOfValue(SelfValue) : nullptr;
+	if (Struct && Struct->IsChildOf(Property->Struct))
+	{
+		Property->Struct->CopyScriptStruct(PythonStruct::MemoryOf(SelfValue), Block + NewSelf->Offset);
+	}
 }
 
 /** Reads a default of a structure that C++ metadata writes as bare numbers: "0.000000,0.000000,0.000000". */
@@ -166,26 +234,32 @@ static bool ImportDefault(const FProperty* Property, const FString& Text, void* 
 	return Property->ImportText(*Text, Value, PPF_None, nullptr) != nullptr;
 }
 
+void FPythonFunction::MakeDefaults()
+{
+	if (Defaults)
+	{
+		return;
+	}
+	Defaults = static_cast<uint8*>(FMemory::Malloc(Function->ParmsSize, FBlock::Alignment));
+	FMemory::Memzero(Defaults, Function->ParmsSize);
+	for (const FProperty* Property : NeedingConstruction)
+	{
+		Property->InitializeValue_InContainer(Defaults);
+	}
+}
+
 void FPythonFunction::ReadDefaults()
 {
 	for (FParameter& Input : Inputs)
 	{
 		const FString* const Text = Function->FindMetaData(*(TEXT("CPP_Default_") + Input.Property->GetName()));
-		if (!Text)
+		if (!Text && Form != EForm::Constructor)
 		{
 			continue;
 		}
-		if (!Defaults)
-		{
-			Defaults = static_cast<uint8*>(FMemory::Malloc(Function->ParmsSize, FBlock::Alignment));
-			FMemory::Memzero(Defaults, Function->ParmsSize);
-			for (const FProperty* Property : NeedingConstruction)
-			{
-				Property->InitializeValue_InContainer(Defaults);
-			}
-		}
+		MakeDefaults();
 		// An empty text stands for the value that C++ makes without arguments.
-		Input.bHasDefault = Text->IsEmpty() || ImportDefault(Input.Property, *Text, Defaults + Input.Offset);
+		Input.bHasDefault = !Text || Text->IsEmpty() || ImportDefault(Input.Property, *Text, Defaults + Input.Offset);
 	}
 }
 
@@ -212,9 +286,9 @@ FString FPythonFunction::DescribeDefault(const FParameter& Input) const
 FString FPythonFunction::ResultTypeName() const
 {
 	TArray<FString> Types;
-	if (Return && !Success)
+	if (const FParameter* const Shown = FindShownReturn())
 	{
-		Types.Add(Return->Converter->TypeName());
+		Types.Add(Shown->Converter->TypeName());
 	}
 	for (const FParameter& Output : Outputs)
 	{
@@ -296,8 +370,7 @@ bool FPythonFunction::ReadInputs(PyObject* const* Values, uint8* Block) const
 			{
 				continue;
 			}
-			PythonErrors::Prefix(FString::Printf(TEXT("%s.%s(): argument '%s' (pos %d)"),
-				*PythonNaming::NameOf(Function->GetOwnerClass()), *Name, *Input.Name, Index + 1));
+			PythonErrors::Prefix(FString::Printf(TEXT("%s: argument '%s' (pos %d)"), *Place, *Input.Name, Index + 1));
 			return false;
 		}
 		if (!Input.bHasDefault)
@@ -317,7 +390,8 @@ PyObject* FPythonFunction::PackResult(const uint8* Block) const
 	{
 		Py_RETURN_NONE;
 	}
-	const bool bWithReturn = Return && !Success;
+	const FParameter* const Shown = FindShownReturn();
+	const bool bWithReturn = Shown != nullptr;
 	const int32 Count = Outputs.Num() + (bWithReturn ? 1 : 0);
 	if (Count == 0)
 	{
@@ -325,14 +399,14 @@ PyObject* FPythonFunction::PackResult(const uint8* Block) const
 	}
 	if (Count == 1)
 	{
-		const FParameter& Only = bWithReturn ? *Return : Outputs[0];
+		const FParameter& Only = bWithReturn ? *Shown : Outputs[0];
 		return Only.Converter->ToPython(Block + Only.Offset).Release();
 	}
 
 	FPythonRef Tuple = FPythonRef::Steal(PyTuple_New(Count));
 	for (int32 Index = 0; Tuple && Index < Count; ++Index)
 	{
-		const FParameter& Part = bWithReturn ? (Index == 0 ? *Return : Outputs[Index - 1]) : Outputs[Index];
+		const FParameter& Part = bWithReturn ? (Index == 0 ? *Shown : Outputs[Index - 1]) : Outputs[Index];
 		FPythonRef Value = Part.Converter->ToPython(Block + Part.Offset);
 		if (!Value)
 		{
@@ -351,7 +425,8 @@ bool FPythonFunction::WarnOfDeprecation() const
 	return Message && PyErr_WarnFormat(PyExc_DeprecationWarning, 1, "%U", Message.Get()) == 0;
 }
 
-PyObject* FPythonFunction::Call(UObject* Target, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const
+PyObject* FPythonFunction::Call(
+	UObject* Target, PyObject* SelfValue, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const
 {
 	if (!DeprecationMessage.IsEmpty() && !WarnOfDeprecation())
 	{
@@ -370,7 +445,7 @@ PyObject* FPythonFunction::Call(UObject* Target, PyObject* const* Arguments, Py_
 	}
 
 	const FBlock Block(*this, Align(alloca(Function->ParmsSize + FBlock::Alignment), FBlock::Alignment));
-	if (!ReadInputs(Values, Block.Get()))
+	if ((Self && !Self->Converter->FromPython(SelfValue, Block.Get() + Self->Offset)) || !ReadInputs(Values, Block.Get()))
 	{
 		return nullptr;
 	}
@@ -380,6 +455,10 @@ PyObject* FPythonFunction::Call(UObject* Target, PyObject* const* Arguments, Py_
 	{
 		PyErr_SetString(PyExc_RuntimeError, TCHAR_TO_UTF8(*Error));
 		return nullptr;
+	}
+	if (Self)
+	{
+		UpdateSelf(SelfValue, Block.Get());
 	}
 	return PackResult(Block.Get());
 }

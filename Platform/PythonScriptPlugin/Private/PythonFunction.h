@@ -27,6 +27,18 @@ public:
 	 * @param DeprecationMessage  For a name that scripts should no longer use; otherwise empty.
 	 */
 	static TUniquePtr<FPythonFunction> Make(UFunction* Function, const FString& Name, const FString& DeprecationMessage);
+
+	/**
+	 * A static function as a method of the type of its first parameter, which is the value that it is called on. That value changes
+	 * if the parameter is a reference, or by the metadata ScriptMethodMutable and ScriptMethodSelfReturn.
+	 *
+	 * @param OwnerName  The type, for messages.
+	 */
+	static TUniquePtr<FPythonFunction> MakeMethod(
+		UFunction* Function, const FString& OwnerName, const FString& Name, const FString& DeprecationMessage);
+
+	/** A static function as the constructor of a type: no argument is required, what has no default is zero. */
+	static TUniquePtr<FPythonFunction> MakeConstructor(UFunction* Function, const FString& TypeName);
 	~FPythonFunction();
 
 	UFunction* GetFunction() const { return Function; }
@@ -36,7 +48,10 @@ public:
 	const TArray<FParameter>& GetOutputs() const { return Outputs; }
 	/** Null if C++ returns nothing. */
 	const FParameter* GetReturn() const { return Return.Get(); }
+	/** The value that a static function is called on as a method; null for other functions. */
+	const FParameter* GetSelf() const { return Self.Get(); }
 
+	/** Is it called without an instance? */
 	bool IsStatic() const;
 	/** Empty for a function that scripts may use. */
 	const FString& GetDeprecationMessage() const { return DeprecationMessage; }
@@ -52,15 +67,45 @@ public:
 	 * @param Arguments  Positional arguments, then the values of Keywords (a tuple of names, or null).
 	 * @return What the rules of packing make of return value and out parameters; null with a Python error.
 	 */
-	PyObject* Call(UObject* Target, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const;
+	PyObject* Call(UObject* Target, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const
+	{
+		return Call(Target, nullptr, Arguments, PositionalCount, Keywords);
+	}
+
+	/** Calls a static function on a value of the type of its first parameter. */
+	PyObject* CallOn(PyObject* SelfValue, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const
+	{
+		return Call(DefaultTarget(), SelfValue, Arguments, PositionalCount, Keywords);
+	}
+
+	/** The object that static functions run on. */
+	UObject* DefaultTarget() const;
 
 private:
-	FPythonFunction(UFunction* InFunction, const FString& InName, const FString& InDeprecationMessage);
+	enum class EForm
+	{
+		Function,
+		Method,
+		Constructor,
+	};
+
+	FPythonFunction(
+		UFunction* InFunction, EForm InForm, const FString& InPlace, const FString& InName, const FString& InDeprecationMessage);
+	static TUniquePtr<FPythonFunction> Finish(FPythonFunction* Unfinished);
+	PyObject* Call(
+		UObject* Target, PyObject* SelfValue, PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords) const;
 	class FBlock;
 
 	bool AddParameters();
 	bool AddParameter(FProperty* Property);
+	bool AddSelf(FParameter&& Parameter, bool bIsInput, bool bIsOutput);
 	void ReadDefaults();
+	void MakeDefaults();
+	/** The parameter whose value the instance has after a call; null for the usual function, which changes none. */
+	const FParameter* FindNewSelf() const;
+	void UpdateSelf(PyObject* SelfValue, const uint8* Block) const;
+	/** The return value that scripts see. */
+	const FParameter* FindShownReturn() const;
 
 	/** Brings the arguments into the order of Inputs; null for those that are not given. */
 	bool SortArguments(PyObject* const* Arguments, Py_ssize_t PositionalCount, PyObject* Keywords, PyObject** OutValues) const;
@@ -70,11 +115,16 @@ private:
 	bool WarnOfDeprecation() const;
 
 	UFunction* const Function;
+	const EForm Form;
+	/** What messages call it: "VelmoraData.get_text()". */
+	const FString Place;
 	const FString Name;
 	const FString DeprecationMessage;
 	TArray<FParameter> Inputs;
 	TArray<FParameter> Outputs;
 	TUniquePtr<FParameter> Return;
+	TUniquePtr<FParameter> Self;
+	bool bChangesSelf = false;
 	/** A bool that is swallowed: true shows in the out parameters, false as None. */
 	const FBoolProperty* Success = nullptr;
 

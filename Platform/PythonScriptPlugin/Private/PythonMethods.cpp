@@ -22,31 +22,19 @@ struct FPythonMethod
 	static const FPythonMethod& From(PyObject* Self) { return PythonTypes::StateOf<FPythonMethod>(Self); }
 };
 
-static PyObject* RaiseForeign(const FPythonMethod& Method)
-{
-	PythonErrors::Raise(PyExc_TypeError,
-		FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"), *Method.Function->GetName(),
-			UTF8_TO_TCHAR(Method.Owner->tp_name)));
-	return nullptr;
-}
-
 static PyObject* CallMember(PyObject* Self, PyObject* const* Arguments, size_t CountAndFlags, PyObject* Keywords)
 {
 	const FPythonMethod& Method = FPythonMethod::From(Self);
 	const Py_ssize_t Count = PyVectorcall_NARGS(CountAndFlags);
 	if (Count == 0 || !PyObject_TypeCheck(Arguments[0], Method.Owner))
 	{
-		return RaiseForeign(Method);
-	}
-	UObject* const Target = FPythonInterpreter::CheckMainThread() ? PythonObjects::FromWrapper(Arguments[0]) : nullptr;
-	if (!Target)
-	{
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"), *Method.Function->GetName(),
+				UTF8_TO_TCHAR(Method.Owner->tp_name)));
 		return nullptr;
 	}
-	// A type that a script derived from several of the engine's is each of them to Python; its object is of one class.
-	return Py_TYPE(Arguments[0]) == Method.Owner || Target->IsA(Method.Function->GetFunction()->GetOwnerClass())
-		? Method.Function->Call(Target, Arguments + 1, Count - 1, Keywords)
-		: RaiseForeign(Method);
+	UObject* const Target = FPythonInterpreter::CheckMainThread() ? PythonObjects::FromWrapper(Arguments[0]) : nullptr;
+	return Target ? Method.Function->Call(Target, Arguments + 1, Count - 1, Keywords) : nullptr;
 }
 
 static PyObject* CallStatic(PyObject* Self, PyObject* const* Arguments, size_t CountAndFlags, PyObject* Keywords)
@@ -56,8 +44,23 @@ static PyObject* CallStatic(PyObject* Self, PyObject* const* Arguments, size_t C
 	{
 		return nullptr;
 	}
-	UObject* const Target = Function.GetFunction()->GetOwnerClass()->GetDefaultObject();
-	return Function.Call(Target, Arguments, PyVectorcall_NARGS(CountAndFlags), Keywords);
+	return Function.Call(Function.DefaultTarget(), Arguments, PyVectorcall_NARGS(CountAndFlags), Keywords);
+}
+
+/** A function of a library as method of a value, which is its first argument. */
+static PyObject* CallOnValue(PyObject* Self, PyObject* const* Arguments, size_t CountAndFlags, PyObject* Keywords)
+{
+	const FPythonMethod& Method = FPythonMethod::From(Self);
+	const Py_ssize_t Count = PyVectorcall_NARGS(CountAndFlags);
+	if (Count == 0 || !PyObject_TypeCheck(Arguments[0], Method.Owner))
+	{
+		PythonErrors::Raise(PyExc_TypeError,
+			FString::Printf(TEXT("%s() needs a value of type '%s' to be called on"), *Method.Function->GetName(),
+				UTF8_TO_TCHAR(Method.Owner->tp_name)));
+		return nullptr;
+	}
+	return FPythonInterpreter::CheckMainThread() ? Method.Function->CallOn(Arguments[0], Arguments + 1, Count - 1, Keywords)
+												 : nullptr;
 }
 
 static PyObject* BindMember(PyObject* Self, PyObject* Instance, PyObject*)
@@ -153,18 +156,22 @@ static FString DeprecationOf(const UFunction* Function)
 	return Message.IsEmpty() ? FString(TEXT("it will be removed")) : Message;
 }
 
-static bool AddMethod(PyTypeObject* Type, UFunction* Function, const FString& Name, const FString& DeprecationMessage)
+/** What a further name of a function says to scripts that use it; for the first one what the function itself says. */
+static FString DeprecationOf(const UFunction* Function, const TArray<FString>& Names, const FString& Name)
 {
-	TUniquePtr<FPythonFunction> Binding = FPythonFunction::Make(Function, Name, DeprecationMessage);
+	return Name != Names[0] ? FString::Printf(TEXT("use '%s'"), *Names[0]) : DeprecationOf(Function);
+}
+
+static bool AddMethod(PyTypeObject* Type, TUniquePtr<FPythonFunction> Binding)
+{
 	if (!Binding)
 	{
 		// A parameter of a kind that Python cannot carry: there is no such method.
 		return true;
 	}
-	const bool bStatic = Binding->IsStatic();
-	const FPythonRef Key = PythonStrings::Intern(Name);
-	const FPythonRef Method = PythonTypes::New<FPythonMethod>(
-		MethodType(bStatic), static_cast<vectorcallfunc>(bStatic ? &CallStatic : &CallMember), Type, MoveTemp(Binding));
+	const vectorcallfunc Call = Binding->IsStatic() ? &CallStatic : Binding->GetSelf() ? &CallOnValue : &CallMember;
+	const FPythonRef Key = PythonStrings::Intern(Binding->GetName());
+	const FPythonRef Method = PythonTypes::New<FPythonMethod>(MethodType(Binding->IsStatic()), Call, Type, MoveTemp(Binding));
 	return Method && PythonTypes::AddAttribute(Type, Key.Get(), Method.Get());
 }
 
@@ -179,12 +186,31 @@ bool PythonMethods::Add(PyTypeObject* Type, const UClass* Class)
 		const TArray<FString> Names = PythonNaming::NamesOf(*It);
 		for (const FString& Name : Names)
 		{
-			const bool bIsAlias = Name != Names[0];
-			if (!AddMethod(Type, *It, Name, bIsAlias ? FString::Printf(TEXT("use '%s'"), *Names[0]) : DeprecationOf(*It)))
+			if (!AddMethod(Type, FPythonFunction::Make(*It, Name, DeprecationOf(*It, Names, Name))))
 			{
 				return false;
 			}
 		}
 	}
 	return true;
+}
+
+bool PythonMethods::AddToHost(PyTypeObject* Type, UFunction* Function)
+{
+	const TArray<FString> Names = PythonNaming::MethodNamesOf(Function);
+	const FString Owner = UTF8_TO_TCHAR(Type->tp_name);
+	for (const FString& Name : Names)
+	{
+		if (!AddMethod(Type, FPythonFunction::MakeMethod(Function, Owner, Name, DeprecationOf(Function, Names, Name))))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+const FPythonFunction* PythonMethods::FunctionOf(PyObject* Attribute)
+{
+	const bool bIsMethod = Py_TYPE(Attribute) == MethodType(false) || Py_TYPE(Attribute) == MethodType(true);
+	return bIsMethod ? FPythonMethod::From(Attribute).Function.Get() : nullptr;
 }

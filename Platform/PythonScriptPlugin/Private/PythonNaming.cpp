@@ -119,18 +119,37 @@ static TArray<FString> ScriptNames(const FString& ScriptName)
 	return Names;
 }
 
-TArray<FString> NamesOf(const UFunction* Function)
+static TArray<FString> NamesBy(const UFunction* Function, const TCHAR* Key, FString (*Respell)(const FString& Name))
 {
-	TArray<FString> Names = ScriptNames(Function->GetMetaData(TEXT("ScriptName")));
+	TArray<FString> Names = ScriptNames(Function->GetMetaData(Key));
+	if (Names.Num() == 0)
+	{
+		Names = ScriptNames(Function->GetMetaData(TEXT("ScriptName")));
+	}
 	if (Names.Num() == 0)
 	{
 		Names.Add(Function->GetName());
 	}
 	for (FString& Name : Names)
 	{
-		Name = ToSnakeCase(Name);
+		Name = Respell(Name);
 	}
 	return Names;
+}
+
+TArray<FString> NamesOf(const UFunction* Function)
+{
+	return NamesBy(Function, TEXT("ScriptName"), &ToSnakeCase);
+}
+
+TArray<FString> MethodNamesOf(const UFunction* Function)
+{
+	return NamesBy(Function, TEXT("ScriptMethod"), &ToSnakeCase);
+}
+
+TArray<FString> ConstantNamesOf(const UFunction* Function)
+{
+	return NamesBy(Function, TEXT("ScriptConstant"), &ToUpperSnakeCase);
 }
 
 FString NameOf(const FProperty* Property)

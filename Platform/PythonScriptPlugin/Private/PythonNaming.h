@@ -31,6 +31,10 @@ bool IsReserved(const FString& Name);
 /** The first name is the function's, further ones are its deprecated aliases (ScriptName="A;B"). */
 TArray<FString> NamesOf(const UFunction* Function);
 
+/** The same for a function as a method of its first parameter (ScriptMethod="A;B"), or as a constant (ScriptConstant="A;B"). */
+TArray<FString> MethodNamesOf(const UFunction* Function);
+TArray<FString> ConstantNamesOf(const UFunction* Function);
+
 /** Name of a property as attribute; the "b" of a bool goes. */
 FString NameOf(const FProperty* Property);
 

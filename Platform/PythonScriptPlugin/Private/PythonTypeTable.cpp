@@ -2,6 +2,7 @@
 
 #include "PythonEnum.h"
 #include "PythonErrors.h"
+#include "PythonHostedFunctions.h"
 #include "PythonMethods.h"
 #include "PythonNaming.h"
 #include "PythonObjects.h"
@@ -54,6 +55,11 @@ static StructType* StructBehind(PyTypeObject* Type)
 		}
 	}
 	return nullptr;
+}
+
+PyTypeObject* PythonTypeTable::OwnTypeOf(const UStruct* Struct)
+{
+	return FindType(Struct);
 }
 
 UClass* PythonTypeTable::ClassOf(PyTypeObject* Type)
@@ -220,6 +226,13 @@ bool PythonTypeTable::Update(PyObject* Module)
 	{
 		PyTypeObject* const Type = FindType(GClasses[Index]);
 		if (!PythonProperty::AddAttributes(Type, GClasses[Index]) || !PythonMethods::Add(Type, GClasses[Index]))
+		{
+			return false;
+		}
+	}
+	for (int32 Index = FirstNewClass; Index < GClasses.Num(); ++Index)
+	{
+		if (!PythonHostedFunctions::Add(GClasses[Index]))
 		{
 			return false;
 		}

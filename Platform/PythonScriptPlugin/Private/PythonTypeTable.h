@@ -5,6 +5,7 @@
 class UClass;
 class UEnum;
 class UScriptStruct;
+class UStruct;
 
 /** The Python types of reflected classes, structures and enumerations. */
 namespace PythonTypeTable
@@ -17,6 +18,9 @@ PyTypeObject* TypeOf(const UClass* Class);
 
 /** Null for a structure that Python does not know. */
 PyTypeObject* TypeOf(const UScriptStruct* Struct);
+
+/** The type of just that class or structure; null if it has none. */
+PyTypeObject* OwnTypeOf(const UStruct* Struct);
 
 /** The class of a type or of its nearest base that has one; null for types of other kinds. */
 UClass* ClassOf(PyTypeObject* Type);

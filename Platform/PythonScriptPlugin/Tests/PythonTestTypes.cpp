@@ -195,3 +195,63 @@ int32 UPythonTestLibrary::Unexposed(int32 Number)
 {
 	return Number + 100;
 }
+
+int32 UPythonTestHostedLibrary::CountSteps(const FPythonTestPlace& Place, const FPythonTestPlace& Other, int32 Stride)
+{
+	return (Other.Floor - Place.Floor) / Stride;
+}
+
+int32 UPythonTestHostedLibrary::LiftPlace(FPythonTestPlace& Place, int32 Floors)
+{
+	Place.Floor += Floors;
+	return Floors * 10;
+}
+
+FPythonTestPlace UPythonTestHostedLibrary::WithLabel(const FPythonTestPlace& Place, const FString& Label)
+{
+	FPythonTestPlace Result = Place;
+	Result.Label = Label;
+	return Result;
+}
+
+int32 UPythonTestHostedLibrary::GetCountOf(const UPythonTestObject* Object, int32 Factor)
+{
+	return Object->Count * Factor;
+}
+
+FPythonTestPlace UPythonTestHostedLibrary::LabelledBy(const FPythonTestPlace& Place, const FString& Label)
+{
+	return WithLabel(Place, Label);
+}
+
+FPythonTestPlace UPythonTestHostedLibrary::OnFloor(const FPythonTestPlace& Place, int32 Floor)
+{
+	FPythonTestPlace Result = Place;
+	Result.Floor = Floor;
+	return Result;
+}
+
+int32 UPythonTestHostedLibrary::FloorModulo(const FPythonTestPlace& Place, int32 Divisor)
+{
+	return Place.Floor % Divisor;
+}
+
+bool UPythonTestHostedLibrary::HasLabel(const FPythonTestPlace& Place)
+{
+	return !Place.Label.IsEmpty();
+}
+
+bool UPythonTestHostedLibrary::OnSameFloor(const FPythonTestPlace& Place, const FPythonTestPlace& Other)
+{
+	return Place.Floor == Other.Floor;
+}
+
+FPythonTestPlace UPythonTestHostedLibrary::MakeCellar()
+{
+	return OnFloor(FPythonTestPlace(), -1);
+}
+
+int32 UPythonTestHostedLibrary::GetLowestFloor()
+{
+	return -4;
+}

@@ -217,3 +217,46 @@ public:
 	UFUNCTION()
 	static int32 Unexposed(int32 Number);
 };
+
+/** Functions that show on other types. */
+UCLASS(meta = (ScriptName = "PythonTestHostedFunctions"))
+class UPythonTestHostedLibrary : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	/** How far it is to the other place. */
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod = "StepsTo;Steps"))
+	static int32 CountSteps(const FPythonTestPlace& Place, const FPythonTestPlace& Other, int32 Stride = 2);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod))
+	static int32 LiftPlace(UPARAM(ref) FPythonTestPlace& Place, int32 Floors);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod = "Relabel", ScriptMethodSelfReturn))
+	static FPythonTestPlace WithLabel(const FPythonTestPlace& Place, const FString& Label);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod = "CountOf"))
+	static int32 GetCountOf(const UPythonTestObject* Object, int32 Factor = 1);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptOperator = "<<;<<="))
+	static FPythonTestPlace LabelledBy(const FPythonTestPlace& Place, const FString& Label);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptOperator = "<<;<<="))
+	static FPythonTestPlace OnFloor(const FPythonTestPlace& Place, int32 Floor);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptOperator = "%"))
+	static int32 FloorModulo(const FPythonTestPlace& Place, int32 Divisor);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptOperator = "bool"))
+	static bool HasLabel(const FPythonTestPlace& Place);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptOperator = "=="))
+	static bool OnSameFloor(const FPythonTestPlace& Place, const FPythonTestPlace& Other);
+
+	UFUNCTION(BlueprintPure, Category = "Test", meta = (ScriptConstant = "Cellar"))
+	static FPythonTestPlace MakeCellar();
+
+	UFUNCTION(BlueprintPure, Category = "Test",
+		meta = (ScriptConstant = "LowestFloor", ScriptConstantHost = "/Script/PythonScriptPluginTests.PythonTestPlace"))
+	static int32 GetLowestFloor();
+};
