@@ -12,6 +12,7 @@
 #include "PythonSlateTicks.h"
 #include "PythonSlowTask.h"
 #include "PythonStruct.h"
+#include "PythonStructFields.h"
 #include "PythonText.h"
 #include "PythonTypeTable.h"
 
@@ -83,6 +84,7 @@ void PythonModule::Release()
 	PythonSlateTicks::ReleaseAll();
 	PythonObjects::ReleaseAll();
 	PythonEnum::ReleaseAll();
+	PythonStructFields::ReleaseAll();
 	FPythonPropertyTable::ReleaseAll();
 	PythonTypeTable::ReleaseAll();
 }

@@ -2,12 +2,13 @@
 
 #include "PythonErrors.h"
 #include "PythonInterpreter.h"
-#include "PythonMappings.h"
 #include "PythonNaming.h"
 #include "PythonObjects.h"
 #include "PythonProperty.h"
 #include "PythonReferences.h"
 #include "PythonStrings.h"
+#include "PythonStructFields.h"
+#include "PythonStructText.h"
 #include "PythonTypeSpec.h"
 #include "PythonTypeTable.h"
 #include "UObject/UObjectGlobals.h"
@@ -96,48 +97,6 @@ void* PythonStruct::MemoryOf(PyObject* Value)
 	return FPythonStruct::From(Value).Memory;
 }
 
-static bool SetFieldsByName(UScriptStruct* Struct, PyObject* Mapping, void* Memory)
-{
-	const TSharedRef<const FPythonPropertyTable> Table = FPythonPropertyTable::Of(Struct);
-	const FPythonRef Items = PythonMappings::ItemsOf(Mapping);
-	if (!Items)
-	{
-		return false;
-	}
-	for (Py_ssize_t Index = 0; Index < PyList_GET_SIZE(Items.Get()); ++Index)
-	{
-		PyObject* const Item = PyList_GET_ITEM(Items.Get(), Index);
-		const FPythonProperty* const Field = PythonProperty::FindOrRaise(*Table, Struct, PyTuple_GET_ITEM(Item, 0));
-		if (!Field || !Field->Set(Memory, PyTuple_GET_ITEM(Item, 1)))
-		{
-			return false;
-		}
-	}
-	return true;
-}
-
-static bool SetFieldsInOrder(UScriptStruct* Struct, PyObject* Sequence, void* Memory)
-{
-	const TSharedRef<const FPythonPropertyTable> Table = FPythonPropertyTable::Of(Struct);
-	const Py_ssize_t Count = PySequence_Size(Sequence);
-	if (Count > Table->GetAll().Num())
-	{
-		PythonErrors::Raise(PyExc_TypeError,
-			FString::Printf(TEXT("%s has %d fields (%d given)"), *PythonNaming::NameOf(Struct), Table->GetAll().Num(),
-				static_cast<int32>(Count)));
-		return false;
-	}
-	for (Py_ssize_t Index = 0; Index < Count; ++Index)
-	{
-		const FPythonRef Value = FPythonRef::Steal(PySequence_GetItem(Sequence, Index));
-		if (!Value || !Table->GetAll()[static_cast<int32>(Index)]->Set(Memory, Value.Get()))
-		{
-			return false;
-		}
-	}
-	return Count >= 0;
-}
-
 bool PythonStruct::FromPython(UScriptStruct* Struct, PyObject* Value, void* Memory)
 {
 	if (const UScriptStruct* const ValueStruct = StructOfValue(Value))
@@ -150,11 +109,11 @@ bool PythonStruct::FromPython(UScriptStruct* Struct, PyObject* Value, void* Memo
 	}
 	else if (PyDict_Check(Value) || (PyMapping_Check(Value) && PyObject_HasAttrString(Value, "keys")))
 	{
-		return SetFieldsByName(Struct, Value, Memory);
+		return PythonStructFields::SetByName(Struct, Value, Memory);
 	}
 	else if (PySequence_Check(Value) && !PyUnicode_Check(Value) && !PyBytes_Check(Value))
 	{
-		return SetFieldsInOrder(Struct, Value, Memory);
+		return PythonStructFields::SetInOrder(Struct, Value, Memory);
 	}
 	return PythonErrors::RaiseUnexpectedType(PythonNaming::NameOf(Struct) + TEXT(", mapping or sequence"), Value);
 }
@@ -169,15 +128,11 @@ static PyObject* NewStruct(PyTypeObject* Type, PyObject*, PyObject*)
 	return FPythonInterpreter::CheckMainThread() ? NewValue(Type, Struct).Release() : nullptr;
 }
 
-/** unreal.SomeStruct(first, second, third=value): fields in declared order, by name, or none. */
+/** unreal.SomeStruct(first, second, third=value): all optional. */
 static int InitStruct(PyObject* Self, PyObject* Arguments, PyObject* Keywords)
 {
 	const FPythonStruct& Value = FPythonStruct::From(Self);
-	if (!SetFieldsInOrder(Value.Struct, Arguments, Value.Memory))
-	{
-		return -1;
-	}
-	return !Keywords || SetFieldsByName(Value.Struct, Keywords, Value.Memory) ? 0 : -1;
+	return PythonStructFields::Construct(Value.Struct, Arguments, Keywords, Value.Memory) ? 0 : -1;
 }
 
 static PyObject* CastToStruct(PyObject* Type, PyObject* Value)
@@ -217,19 +172,7 @@ static PyObject* AssignStruct(PyObject* Self, PyObject* Value)
 
 static PyObject* StructToTuple(PyObject* Self, PyObject*)
 {
-	const FPythonStruct& Value = FPythonStruct::From(Self);
-	const TSharedRef<const FPythonPropertyTable> Table = FPythonPropertyTable::Of(Value.Struct);
-	FPythonRef Tuple = FPythonRef::Steal(PyTuple_New(Table->GetAll().Num()));
-	for (int32 Index = 0; Tuple && Index < Table->GetAll().Num(); ++Index)
-	{
-		FPythonRef Field = Table->GetAll()[Index]->Get(Value.Memory);
-		if (!Field)
-		{
-			return nullptr;
-		}
-		PyTuple_SET_ITEM(Tuple.Get(), Index, Field.Release());
-	}
-	return Tuple.Release();
+	return PythonStructFields::ToTuple(FPythonStruct::From(Self).Struct, Self).Release();
 }
 
 static PyObject* GetStructProperty(PyObject* Self, PyObject* Arguments, PyObject* Keywords)
@@ -275,32 +218,40 @@ static PyObject* SetStructProperties(PyObject* Self, PyObject* Mapping)
 	return AssignStruct(Self, Mapping);
 }
 
+/** Inequality is the opposite of equality, of which the type may have an operator of its own. */
+static PyObject* StructsDiffer(PyObject* Self, PyObject* Other)
+{
+	const FPythonRef Equal = FPythonRef::Steal(Py_TYPE(Self)->tp_richcompare(Self, Other, Py_EQ));
+	if (!Equal || Equal.Get() == Py_NotImplemented)
+	{
+		return FPythonRef(Equal).Release();
+	}
+	const int bEqual = PyObject_IsTrue(Equal.Get());
+	return bEqual < 0 ? nullptr : PyBool_FromLong(!bEqual);
+}
+
 static PyObject* CompareStructs(PyObject* Self, PyObject* Other, int Operation)
 {
+	if (Operation == Py_NE)
+	{
+		return StructsDiffer(Self, Other);
+	}
 	const FPythonStruct& Value = FPythonStruct::From(Self);
-	if ((Operation != Py_EQ && Operation != Py_NE) || PythonStruct::StructOfValue(Other) != Value.Struct)
+	if (Operation != Py_EQ || PythonStruct::StructOfValue(Other) != Value.Struct)
 	{
 		Py_RETURN_NOTIMPLEMENTED;
 	}
-	const bool bEqual = Value.Struct->CompareScriptStruct(Value.Memory, PythonStruct::MemoryOf(Other), PPF_None);
-	return PyBool_FromLong(bEqual == (Operation == Py_EQ));
+	return PyBool_FromLong(Value.Struct->CompareScriptStruct(Value.Memory, PythonStruct::MemoryOf(Other), PPF_None));
 }
 
 static PyObject* StructToRepr(PyObject* Self)
 {
-	const FPythonStruct& Value = FPythonStruct::From(Self);
-	FString Fields;
-	for (const TUniquePtr<FPythonProperty>& Field : FPythonPropertyTable::Of(Value.Struct)->GetAll())
-	{
-		const FPythonRef FieldValue = Field->Get(Value.Memory);
-		const FPythonRef Text = FieldValue ? FPythonRef::Steal(PyObject_Repr(FieldValue.Get())) : FPythonRef();
-		if (!Text)
-		{
-			return nullptr;
-		}
-		Fields += (Fields.IsEmpty() ? TEXT("") : TEXT(", ")) + Field->GetName() + TEXT(": ") + PythonStrings::FromStr(Text.Get());
-	}
-	return PythonStrings::ToPython(FString::Printf(TEXT("<Struct '%s' {%s}>"), *Value.Struct->GetName(), *Fields)).Release();
+	return PythonStructText::Repr(FPythonStruct::From(Self).Struct, Self).Release();
+}
+
+static PyObject* StructToStr(PyObject* Self)
+{
+	return PythonStructText::Str(FPythonStruct::From(Self).Struct, Self).Release();
 }
 
 static PyMethodDef GStructMethods[] = {
@@ -311,7 +262,7 @@ static PyMethodDef GStructMethods[] = {
 	{"copy", CopyStruct, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the value."},
 	{"__copy__", CopyStruct, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the value."},
 	{"assign", AssignStruct, METH_O, "assign($self, value, /)\n--\n\nTakes over another value, whole or not at all."},
-	{"to_tuple", StructToTuple, METH_NOARGS, "to_tuple($self, /)\n--\n\nThe fields in declared order."},
+	{"to_tuple", StructToTuple, METH_NOARGS, "to_tuple($self, /)\n--\n\nThe values that the constructor takes, in its order."},
 	{"get_editor_property", PythonKeywordFunction(GetStructProperty), METH_VARARGS | METH_KEYWORDS,
 		"get_editor_property($self, name)\n--\n\nThe value of an editable or script-visible field."},
 	{"set_editor_property", PythonKeywordFunction(SetStructProperty), METH_VARARGS | METH_KEYWORDS,
@@ -329,6 +280,7 @@ bool PythonStruct::RegisterBase(PyObject* Module)
 						  .Function(Py_tp_new, &NewStruct)
 						  .Function(Py_tp_init, &InitStruct)
 						  .Function(Py_tp_repr, &StructToRepr)
+						  .Function(Py_tp_str, &StructToStr)
 						  .Function(Py_tp_richcompare, &CompareStructs)
 						  .Function(Py_tp_hash, &PyObject_HashNotImplemented)
 						  .Make();

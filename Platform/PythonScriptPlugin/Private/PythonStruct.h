@@ -20,8 +20,8 @@ FPythonRef MakeType(UScriptStruct* Struct, PyTypeObject* ParentType);
 FPythonRef ToPython(UScriptStruct* Struct, const void* Value);
 
 /**
- * Writes a structure of that type or one derived from it, a mapping of some fields or a sequence in the order of the fields to
- * initialised memory.
+ * Writes a structure of that type or one derived from it, a mapping of some fields or a sequence in the order of the constructor's
+ * arguments to initialised memory.
  *
  * @return False with a TypeError if the value is none of these or a field does not fit.
  */
