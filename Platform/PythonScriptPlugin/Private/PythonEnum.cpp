@@ -81,7 +81,12 @@ static PyObject* CastToEntry(PyObject* Type, PyObject* Value)
 			Enum ? PythonNaming::NameOf(Enum) + TEXT(" or int") : TEXT("a type of an enumeration"), Value);
 		return nullptr;
 	}
-	return PythonEnum::ToPython(Enum, Number).Release();
+	if (const FPythonRef* const Entry = GEnumTypes.FindChecked(Enum).Entries.Find(Number))
+	{
+		return FPythonRef(*Entry).Release();
+	}
+	return PyErr_Format(PyExc_TypeError, "%s has no entry of value %lld", reinterpret_cast<PyTypeObject*>(Type)->tp_name,
+		static_cast<long long>(Number));
 }
 
 static PyObject* StaticEnum(PyObject* Type, PyObject*)
@@ -90,7 +95,8 @@ static PyObject* StaticEnum(PyObject* Type, PyObject*)
 }
 
 static PyMethodDef GEnumMethods[] = {
-	{"cast", CastToEntry, METH_O | METH_CLASS, "cast($type, value, /)\n--\n\nThe entry of a value, or the entry itself."},
+	{"cast", CastToEntry, METH_O | METH_CLASS,
+		"cast($type, value, /)\n--\n\nThe entry of a value, or the entry itself; TypeError if there is none."},
 	{"static_enum", StaticEnum, METH_NOARGS | METH_CLASS, "static_enum($type, /)\n--\n\nThe engine's object of the enumeration."},
 	{nullptr, nullptr, 0, nullptr},
 };
