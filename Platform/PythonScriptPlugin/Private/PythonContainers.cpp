@@ -37,6 +37,11 @@ PyTypeObject* PythonContainers::SetType()
 	return GSetType.GetType();
 }
 
+PyTypeObject* PythonContainers::MapType()
+{
+	return GMapType.GetType();
+}
+
 FPythonRef PythonContainers::New(PyTypeObject* PythonType, const TSharedRef<const FPythonContainerType>& Type)
 {
 	FPythonRef Result = FPythonRef::Steal(PythonType->tp_alloc(PythonType, 0));
@@ -113,20 +118,18 @@ FPythonRef PythonContainers::As(PyTypeObject* BuiltinType, PyObject* Self)
 	return FPythonRef::Steal(PyObject_CallOneArg(reinterpret_cast<PyObject*>(BuiltinType), Self));
 }
 
-static bool IsComparable(PyTypeObject* BuiltinType, PyObject* Other)
-{
-	const PyTypeObject* const OtherType = Py_TYPE(Other);
-	return PyObject_TypeCheck(Other, BuiltinType) || OtherType == GArrayType.GetType() || OtherType == GSetType.GetType() ||
-		OtherType == GMapType.GetType();
-}
-
 PyObject* PythonContainers::CompareAs(PyTypeObject* BuiltinType, PyObject* Self, PyObject* Other, int Operation)
 {
-	if (!IsComparable(BuiltinType, Other))
+	if (Py_TYPE(Other) != Py_TYPE(Self) && !PyObject_TypeCheck(Other, BuiltinType))
 	{
 		Py_RETURN_NOTIMPLEMENTED;
 	}
 	const FPythonRef Left = As(BuiltinType, Self);
 	const FPythonRef Right = Left ? As(BuiltinType, Other) : FPythonRef();
 	return Right ? PyObject_RichCompare(Left.Get(), Right.Get(), Operation) : nullptr;
+}
+
+bool PythonContainers::IsOfType(const FPythonContainerType& Type, PyObject* Value)
+{
+	return Py_TYPE(Value) == TypeFor(Type.Property) && FPythonContainer::From(Value).Type->Property->SameType(Type.Property);
 }

@@ -41,6 +41,10 @@ FPythonRef MakeMapType();
 PyTypeObject* TypeFor(const FProperty* Property);
 
 PyTypeObject* SetType();
+PyTypeObject* MapType();
+
+/** Is the value a container of just that type, so that its memory can be copied? */
+bool IsOfType(const FPythonContainerType& Type, PyObject* Value);
 
 /** An empty container, as a new Python value. */
 FPythonRef New(PyTypeObject* PythonType, const TSharedRef<const FPythonContainerType>& Type);

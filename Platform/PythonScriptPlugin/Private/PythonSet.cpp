@@ -1,4 +1,6 @@
+#include "PythonContainerIterator.h"
 #include "PythonContainers.h"
+#include "PythonSetOperations.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
 
@@ -26,6 +28,11 @@ static bool AddTo(const FPythonContainerType& Type, FScriptSetHelper& Helper, Py
 
 bool PythonContainers::FillSet(const FPythonContainerType& Type, PyObject* Value, void* Memory)
 {
+	if (IsOfType(Type, Value))
+	{
+		Type.Property->CopyCompleteValue(Memory, FPythonContainer::From(Value).Memory);
+		return true;
+	}
 	const FPythonRef Iterator = Iterate(Type, Value);
 	if (!Iterator)
 	{
@@ -60,29 +67,21 @@ static Py_ssize_t SetLength(PyObject* Self)
 	return HelperOf(Self).Num();
 }
 
-static FPythonRef ListElements(PyObject* Self)
+static FPythonRef ElementAt(PyObject* Self, int32 Index)
 {
-	const FScriptSetHelper Helper = HelperOf(Self);
-	FPythonRef List = FPythonRef::Steal(PyList_New(0));
-	for (int32 Index = 0; List && Index < Helper.GetMaxIndex(); ++Index)
-	{
-		if (!Helper.IsValidIndex(Index))
-		{
-			continue;
-		}
-		const FPythonRef Element = FPythonContainer::From(Self).Type->Element->ToPython(Helper.GetElementPtr(Index));
-		if (!Element || PyList_Append(List.Get(), Element.Get()) < 0)
-		{
-			return FPythonRef();
-		}
-	}
-	return List;
+	return FPythonContainer::From(Self).Type->Element->ToPython(HelperOf(Self).GetElementPtr(Index));
 }
+
+static const PythonContainerIterator::FPlaces GSetPlaces = {
+	[](PyObject* Self) { return HelperOf(Self).Num(); },
+	[](PyObject* Self) { return HelperOf(Self).GetMaxIndex(); },
+	[](PyObject* Self, int32 Index) { return HelperOf(Self).IsValidIndex(Index); },
+	&ElementAt,
+};
 
 static PyObject* IterateSet(PyObject* Self)
 {
-	const FPythonRef List = ListElements(Self);
-	return List ? PyObject_GetIter(List.Get()) : nullptr;
+	return PythonContainerIterator::Make(Self, GSetPlaces).Release();
 }
 
 /** Place of an element, INDEX_NONE if it is not there or of another type, which is no error. */
@@ -139,93 +138,132 @@ static PyObject* ClearSet(PyObject* Self, PyObject*)
 	Py_RETURN_NONE;
 }
 
-/** Adds the items of any number of iterables, all or none. */
-static PyObject* UpdateSet(PyObject* Self, PyObject* Iterables)
+using PythonSetOperations::FOperation;
+
+/** A method that changes the set by each of its arguments. */
+template <const FOperation& Operation>
+static PyObject* ChangeSet(PyObject* Self, PyObject* const* Iterables, Py_ssize_t Count)
 {
-	const FPythonRef Elements = ListElements(Self);
-	for (Py_ssize_t Index = 0; Elements && Index < PyTuple_GET_SIZE(Iterables); ++Index)
-	{
-		const FPythonRef Extended =
-			FPythonRef::Steal(PySequence_InPlaceConcat(Elements.Get(), PyTuple_GET_ITEM(Iterables, Index)));
-		if (!Extended)
-		{
-			return nullptr;
-		}
-	}
-	if (!Elements || !PythonContainers::Refill(Self, Elements.Get()))
+	if (!PythonSetOperations::Apply(Self, Operation, Iterables, Count))
 	{
 		return nullptr;
 	}
 	Py_RETURN_NONE;
 }
 
-/** Runs a method of set over the elements. */
-static FPythonRef CallAsSet(PyObject* Self, const ANSICHAR* Method, PyObject* Arguments)
+/** A method that makes another set of the same type. */
+template <const FOperation& Operation>
+static PyObject* CombineSet(PyObject* Self, PyObject* const* Iterables, Py_ssize_t Count)
 {
-	const FPythonRef Elements = PythonContainers::As(&PySet_Type, Self);
-	const FPythonRef Callable = Elements ? FPythonRef::Steal(PyObject_GetAttrString(Elements.Get(), Method)) : FPythonRef();
-	return Callable ? FPythonRef::Steal(PyObject_CallObject(Callable.Get(), Arguments)) : FPythonRef();
+	FPythonRef Result = FPythonRef::Steal(PythonContainers::Copy(Self, nullptr));
+	return Result && PythonSetOperations::Apply(Result.Get(), Operation, Iterables, Count) ? Result.Release() : nullptr;
 }
 
-/** A method of set that tells something about the elements. */
-template <const ANSICHAR* const& Method>
-static PyObject* TellAsSet(PyObject* Self, PyObject* Arguments)
+/** The same for operations of two sets. */
+template <PyObject* (*Method)(PyObject* Self, PyObject* const* Iterables, Py_ssize_t Count)>
+static PyObject* WithOne(PyObject* Self, PyObject* Iterable)
 {
-	return CallAsSet(Self, Method, Arguments).Release();
+	return Method(Self, &Iterable, 1);
 }
 
-/** A method of set that makes another set, which has the same type here. */
-template <const ANSICHAR* const& Method>
-static PyObject* CombineAsSet(PyObject* Self, PyObject* Arguments)
+static bool IsSet(PyObject* Value)
 {
-	const FPythonRef Elements = CallAsSet(Self, Method, Arguments);
-	FPythonRef Result = Elements ? PythonContainers::New(Py_TYPE(Self), FPythonContainer::From(Self).Type) : FPythonRef();
-	return Result && PythonContainers::Refill(Result.Get(), Elements.Get()) ? Result.Release() : nullptr;
+	return Py_TYPE(Value) == PythonContainers::SetType();
 }
 
-static const ANSICHAR* const GUnion = "union";
-static const ANSICHAR* const GIntersection = "intersection";
-static const ANSICHAR* const GDifference = "difference";
-static const ANSICHAR* const GSymmetricDifference = "symmetric_difference";
-static const ANSICHAR* const GIsSubset = "issubset";
-static const ANSICHAR* const GIsSuperset = "issuperset";
-static const ANSICHAR* const GIsDisjoint = "isdisjoint";
-
-/** self | other and the like, for other sets only. */
-template <const ANSICHAR* const& Method>
-static PyObject* OperateAsSet(PyObject* Self, PyObject* Other)
+/** self | other and the like, for other sets only. A set of Python at the left gives one of Python. */
+template <const FOperation& Operation>
+static PyObject* OperateOnSets(PyObject* Left, PyObject* Right)
 {
-	PyTypeObject* const SetType = PythonContainers::SetType();
-	if (Py_TYPE(Self) != SetType || (Py_TYPE(Other) != SetType && !PyAnySet_Check(Other)))
+	if (IsSet(Left) && (IsSet(Right) || PyAnySet_Check(Right)))
+	{
+		return CombineSet<Operation>(Left, &Right, 1);
+	}
+	if (!PyAnySet_Check(Left))
 	{
 		Py_RETURN_NOTIMPLEMENTED;
 	}
-	const FPythonRef Arguments = FPythonRef::Steal(PyTuple_Pack(1, Other));
-	return Arguments ? CombineAsSet<Method>(Self, Arguments.Get()) : nullptr;
+	const FPythonRef Builtin = PythonContainers::As(&PySet_Type, Right);
+	return Builtin ? Operation.Builtin(Left, Builtin.Get()) : nullptr;
+}
+
+template <const FOperation& Operation>
+static PyObject* OperateInPlace(PyObject* Self, PyObject* Other)
+{
+	if (!IsSet(Other) && !PyAnySet_Check(Other))
+	{
+		Py_RETURN_NOTIMPLEMENTED;
+	}
+	return PythonSetOperations::Apply(Self, Operation, &Other, 1) ? FPythonRef::Borrow(Self).Release() : nullptr;
+}
+
+using PythonSetOperations::FRelation;
+
+template <bool FRelation::*Answer>
+static PyObject* TellOfSet(PyObject* Self, PyObject* Iterable)
+{
+	FRelation Relation;
+	return PythonSetOperations::Relate(Self, Iterable, Relation) ? PyBool_FromLong(Relation.*Answer) : nullptr;
 }
 
 static PyObject* PopFromSet(PyObject* Self, PyObject*)
 {
-	const FPythonRef Elements = ListElements(Self);
-	if (!Elements || PyList_GET_SIZE(Elements.Get()) == 0)
+	FScriptSetHelper Helper = HelperOf(Self);
+	for (int32 Index = 0; Index < Helper.GetMaxIndex(); ++Index)
 	{
-		PyErr_SetString(PyExc_KeyError, "pop from an empty Set");
-		return nullptr;
+		if (Helper.IsValidIndex(Index))
+		{
+			FPythonRef Element = ElementAt(Self, Index);
+			if (Element)
+			{
+				Helper.RemoveAt(Index);
+			}
+			return Element.Release();
+		}
 	}
-	PyObject* const First = PyList_GET_ITEM(Elements.Get(), 0);
-	const FPythonRef Removed = FPythonRef::Steal(RemoveFromSet(Self, First));
-	return Removed ? FPythonRef::Borrow(First).Release() : nullptr;
+	PyErr_SetString(PyExc_KeyError, "pop from an empty Set");
+	return nullptr;
+}
+
+static bool Compare(const FRelation& Relation, int Operation)
+{
+	const bool bEqual = Relation.bIsSubset && Relation.bIsSuperset;
+	switch (Operation)
+	{
+		case Py_EQ:
+			return bEqual;
+		case Py_NE:
+			return !bEqual;
+		case Py_LE:
+			return Relation.bIsSubset;
+		case Py_LT:
+			return Relation.bIsSubset && !bEqual;
+		case Py_GE:
+			return Relation.bIsSuperset;
+		default:
+			return Relation.bIsSuperset && !bEqual;
+	}
 }
 
 static PyObject* CompareSets(PyObject* Self, PyObject* Other, int Operation)
 {
-	return PythonContainers::CompareAs(&PySet_Type, Self, Other, Operation);
+	if (!IsSet(Other) && !PyAnySet_Check(Other))
+	{
+		Py_RETURN_NOTIMPLEMENTED;
+	}
+	FRelation Relation;
+	return PythonSetOperations::Relate(Self, Other, Relation) ? PyBool_FromLong(Compare(Relation, Operation)) : nullptr;
 }
 
 static PyObject* SetToRepr(PyObject* Self)
 {
-	const FPythonRef List = ListElements(Self);
+	const FPythonRef List = PythonContainers::As(&PyList_Type, Self);
 	return List ? PyUnicode_FromFormat("Set(%R)", List.Get()) : nullptr;
+}
+
+static PyCFunction FastMethod(PyObject* (*Function)(PyObject* Self, PyObject* const* Arguments, Py_ssize_t Count))
+{
+	return reinterpret_cast<PyCFunction>(reinterpret_cast<void*>(Function));
 }
 
 static PyMethodDef GSetMethods[] = {
@@ -237,19 +275,31 @@ static PyMethodDef GSetMethods[] = {
 	{"discard", DiscardFromSet, METH_O, "discard($self, value, /)\n--\n\nRemoves a value if it is there."},
 	{"remove", RemoveFromSet, METH_O, "remove($self, value, /)\n--\n\nRemoves a value; KeyError if it is not there."},
 	{"clear", ClearSet, METH_NOARGS, "clear($self, /)\n--\n\nRemoves all values."},
-	{"update", UpdateSet, METH_VARARGS, "update($self, *iterables)\n--\n\nAdds the items of iterables."},
 	{"pop", PopFromSet, METH_NOARGS, "pop($self, /)\n--\n\nRemoves a value and gives it; KeyError for an empty set."},
-	{"union", CombineAsSet<GUnion>, METH_VARARGS, "union($self, *others)\n--\n\nThe values of this and all others."},
-	{"intersection", CombineAsSet<GIntersection>, METH_VARARGS, "intersection($self, *others)\n--\n\nThe values that all have."},
-	{"difference", CombineAsSet<GDifference>, METH_VARARGS, "difference($self, *others)\n--\n\nThe values that no other has."},
-	{"symmetric_difference", CombineAsSet<GSymmetricDifference>, METH_VARARGS,
+	{"union", FastMethod(CombineSet<PythonSetOperations::Union>), METH_FASTCALL,
+		"union($self, *others)\n--\n\nThe values of this and all others."},
+	{"intersection", FastMethod(CombineSet<PythonSetOperations::Intersection>), METH_FASTCALL,
+		"intersection($self, *others)\n--\n\nThe values that all have."},
+	{"difference", FastMethod(CombineSet<PythonSetOperations::Difference>), METH_FASTCALL,
+		"difference($self, *others)\n--\n\nThe values that no other has."},
+	{"symmetric_difference", WithOne<CombineSet<PythonSetOperations::SymmetricDifference>>, METH_O,
 		"symmetric_difference($self, other, /)\n--\n\nThe values that one of both has."},
-	{"issubset", TellAsSet<GIsSubset>, METH_VARARGS,
+	{"update", FastMethod(ChangeSet<PythonSetOperations::Union>), METH_FASTCALL,
+		"update($self, *others)\n--\n\nAdds the values of all others."},
+	{"intersection_update", FastMethod(ChangeSet<PythonSetOperations::Intersection>), METH_FASTCALL,
+		"intersection_update($self, *others)\n--\n\nKeeps the values that all have."},
+	{"difference_update", FastMethod(ChangeSet<PythonSetOperations::Difference>), METH_FASTCALL,
+		"difference_update($self, *others)\n--\n\nRemoves the values of all others."},
+	{"symmetric_difference_update", WithOne<ChangeSet<PythonSetOperations::SymmetricDifference>>, METH_O,
+		"symmetric_difference_update($self, other, /)\n--\n\nKeeps and adds the values that one of both has."},
+	{"issubset", TellOfSet<&FRelation::bIsSubset>, METH_O,
 		"issubset($self, other, /)\n--\n\nWhether the other has all values of this."},
-	{"issuperset", TellAsSet<GIsSuperset>, METH_VARARGS,
+	{"issuperset", TellOfSet<&FRelation::bIsSuperset>, METH_O,
 		"issuperset($self, other, /)\n--\n\nWhether this has all values of the other."},
-	{"isdisjoint", TellAsSet<GIsDisjoint>, METH_VARARGS,
+	{"isdisjoint", TellOfSet<&FRelation::bIsDisjoint>, METH_O,
 		"isdisjoint($self, other, /)\n--\n\nWhether both have no value in common."},
+	{"__class_getitem__", Py_GenericAlias, METH_O | METH_CLASS,
+		"__class_getitem__($type, item, /)\n--\n\nSet[type], for annotations."},
 	{nullptr, nullptr, 0, nullptr},
 };
 
@@ -263,10 +313,14 @@ FPythonRef PythonContainers::MakeSetType()
 		.Function(Py_tp_iter, &IterateSet)
 		.Function(Py_tp_richcompare, &CompareSets)
 		.Function(Py_tp_hash, &PyObject_HashNotImplemented)
-		.Function(Py_nb_or, &OperateAsSet<GUnion>)
-		.Function(Py_nb_and, &OperateAsSet<GIntersection>)
-		.Function(Py_nb_subtract, &OperateAsSet<GDifference>)
-		.Function(Py_nb_xor, &OperateAsSet<GSymmetricDifference>)
+		.Function(Py_nb_or, &OperateOnSets<PythonSetOperations::Union>)
+		.Function(Py_nb_and, &OperateOnSets<PythonSetOperations::Intersection>)
+		.Function(Py_nb_subtract, &OperateOnSets<PythonSetOperations::Difference>)
+		.Function(Py_nb_xor, &OperateOnSets<PythonSetOperations::SymmetricDifference>)
+		.Function(Py_nb_inplace_or, &OperateInPlace<PythonSetOperations::Union>)
+		.Function(Py_nb_inplace_and, &OperateInPlace<PythonSetOperations::Intersection>)
+		.Function(Py_nb_inplace_subtract, &OperateInPlace<PythonSetOperations::Difference>)
+		.Function(Py_nb_inplace_xor, &OperateInPlace<PythonSetOperations::SymmetricDifference>)
 		.Function(Py_sq_length, &SetLength)
 		.Function(Py_sq_contains, &SetContains)
 		.Make();

@@ -9,7 +9,7 @@ import sys
 import traceback
 import types
 import warnings
-from collections.abc import Mapping, MutableSequence, Set
+from collections.abc import ItemsView, KeysView, MutableMapping, MutableSequence, MutableSet, ValuesView
 
 
 class LiteralName(str):
@@ -97,8 +97,50 @@ def redirect_warning(message, category, filename, lineno, file=None, line=None):
 def register_collections(unreal):
     """Lets isinstance() know what kind of collections the containers of the module are."""
     MutableSequence.register(unreal.Array)
-    Set.register(unreal.Set)
-    Mapping.register(unreal.Map)
+    MutableSet.register(unreal.Set)
+    MutableMapping.register(unreal.Map)
+
+
+class _MapView:
+    """What the views of a map have like those of dict, beyond those of collections.abc."""
+
+    __slots__ = ()
+
+    @property
+    def mapping(self):
+        return types.MappingProxyType(self._mapping)
+
+    def __repr__(self):
+        return f"{type(self).__name__}({list(self)!r})"
+
+
+class MapKeys(_MapView, KeysView):
+    __slots__ = ()
+
+    def __reversed__(self):
+        return reversed(self._mapping)
+
+
+class MapValues(_MapView, ValuesView):
+    __slots__ = ()
+
+    def __reversed__(self):
+        return (self._mapping[key] for key in reversed(self._mapping))
+
+
+class MapItems(_MapView, ItemsView):
+    __slots__ = ()
+
+    def __reversed__(self):
+        return ((key, self._mapping[key]) for key in reversed(self._mapping))
+
+
+def reversed_items(array):
+    """The items of an array from last to first, as reversed() gives those of a list that may change meanwhile."""
+    place = len(array)
+    while 0 < place <= len(array):
+        place -= 1
+        yield array[place]
 
 
 def _describe_callable(name, function, indent, decorator=""):
