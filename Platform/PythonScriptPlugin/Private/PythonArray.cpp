@@ -17,7 +17,7 @@ static FScriptArrayHelper HelperOf(PyObject* Self)
 /** Adds one value at the end. */
 static bool AppendTo(const FPythonContainerType& Type, FScriptArrayHelper& Helper, PyObject* Value)
 {
-	// The value may be a script's and change the array while it is looked at.
+	// The conversion may run a script, which may change the very array.
 	const FScopedPropertyValue Converted(Type.ElementProperty);
 	if (!Type.Element->FromPython(Value, Converted.Get()))
 	{
@@ -29,7 +29,7 @@ static bool AppendTo(const FPythonContainerType& Type, FScriptArrayHelper& Helpe
 
 bool PythonContainers::FillArray(const FPythonContainerType& Type, PyObject* Value, void* Memory)
 {
-	if (Py_TYPE(Value) == TypeFor(Type.Property) && FPythonContainer::From(Value).Type->Property->SameType(Type.Property))
+	if (IsOfType(Type, Value))
 	{
 		Type.Property->CopyCompleteValue(Memory, FPythonContainer::From(Value).Memory);
 		return true;
@@ -79,20 +79,22 @@ static PyObject* ArrayItem(PyObject* Self, Py_ssize_t Index)
 	return FPythonContainer::From(Self).Type->Element->ToPython(Helper.GetRawPtr(static_cast<int32>(Index))).Release();
 }
 
+static bool CheckAssignedIndex(const FScriptArrayHelper& Helper, Py_ssize_t Index)
+{
+	if (Index < 0 || Index >= Helper.Num())
+	{
+		PyErr_SetString(PyExc_IndexError, "Array assignment index out of range");
+		return false;
+	}
+	return true;
+}
+
 /** array[i] = value and del array[i]. */
 static int SetArrayItem(PyObject* Self, Py_ssize_t Index, PyObject* Value)
 {
 	FScriptArrayHelper Helper = HelperOf(Self);
-	const FPythonContainerType& Type = *FPythonContainer::From(Self).Type;
-	const FScopedPropertyValue Converted(Type.ElementProperty);
-	if (Value && !Type.Element->FromPython(Value, Converted.Get()))
+	if (!CheckAssignedIndex(Helper, Index))
 	{
-		return -1;
-	}
-	// Only now: the value may be a script's and change the array while it is looked at.
-	if (Index < 0 || Index >= Helper.Num())
-	{
-		PyErr_SetString(PyExc_IndexError, "Array assignment index out of range");
 		return -1;
 	}
 	if (!Value)
@@ -100,7 +102,28 @@ static int SetArrayItem(PyObject* Self, Py_ssize_t Index, PyObject* Value)
 		Helper.RemoveValues(static_cast<int32>(Index));
 		return 0;
 	}
+	const FPythonContainerType& Type = *FPythonContainer::From(Self).Type;
+	const FScopedPropertyValue Converted(Type.ElementProperty);
+	// The conversion may run a script, after which the place may be gone.
+	if (!Type.Element->FromPython(Value, Converted.Get()) || !CheckAssignedIndex(Helper, Index))
+	{
+		return -1;
+	}
 	Type.ElementProperty->CopyCompleteValue(Helper.GetRawPtr(static_cast<int32>(Index)), Converted.Get());
+	return 0;
+}
+
+static int ArrayContains(PyObject* Self, PyObject* Value)
+{
+	for (Py_ssize_t Index = 0; Index < ArrayLength(Self); ++Index)
+	{
+		const FPythonRef Item = FPythonRef::Steal(ArrayItem(Self, Index));
+		const int Equal = Item ? PyObject_RichCompareBool(Item.Get(), Value, Py_EQ) : -1;
+		if (Equal != 0)
+		{
+			return Equal;
+		}
+	}
 	return 0;
 }
 
@@ -208,6 +231,42 @@ static PyObject* ExtendInPlace(PyObject* Self, PyObject* Other)
 	return Done ? FPythonRef::Borrow(Self).Release() : nullptr;
 }
 
+/** The elements of an array Count times, in an array that had them once. */
+static bool Repeat(PyObject* Self, Py_ssize_t Count)
+{
+	FScriptArrayHelper Helper = HelperOf(Self);
+	const int32 Num = Helper.Num();
+	const Py_ssize_t Wanted = Count > 0 ? Num : 0;
+	if (Wanted > 0 && Count > MAX_int32 / Wanted)
+	{
+		PyErr_NoMemory();
+		return false;
+	}
+	Helper.Resize(static_cast<int32>(Wanted * (Count > 0 ? Count : 0)));
+	const FProperty& Element = *FPythonContainer::From(Self).Type->ElementProperty;
+	for (int32 Index = Num; Index < Helper.Num(); ++Index)
+	{
+		Element.CopyCompleteValue(Helper.GetRawPtr(Index), Helper.GetRawPtr(Index - Num));
+	}
+	return true;
+}
+
+static PyObject* RepeatArray(PyObject* Self, Py_ssize_t Count)
+{
+	FPythonRef Result = FPythonRef::Steal(PythonContainers::Copy(Self, nullptr));
+	return Result && Repeat(Result.Get(), Count) ? Result.Release() : nullptr;
+}
+
+static PyObject* RepeatInPlace(PyObject* Self, Py_ssize_t Count)
+{
+	return Repeat(Self, Count) ? FPythonRef::Borrow(Self).Release() : nullptr;
+}
+
+static PyObject* IterateArrayBackwards(PyObject* Self, PyObject*)
+{
+	return FPythonInterpreter::CallBootstrap("reversed_items", Self).Release();
+}
+
 static PyObject* CompareArrays(PyObject* Self, PyObject* Other, int Operation)
 {
 	return PythonContainers::CompareAs(&PyList_Type, Self, Other, Operation);
@@ -251,6 +310,9 @@ static PyMethodDef GArrayMethods[] = {
 	MethodOfList<GRemove, true>("remove($self, value, /)\n--\n\nRemoves the first of equal values; ValueError if there is none."),
 	MethodOfList<GReverse, true>("reverse($self, /)\n--\n\nTurns the order round."),
 	MethodOfList<GSort, true>("sort($self, *, key=None, reverse=False)\n--\n\nSorts the values in place."),
+	{"__reversed__", IterateArrayBackwards, METH_NOARGS, "__reversed__($self, /)\n--\n\nThe values from last to first."},
+	{"__class_getitem__", Py_GenericAlias, METH_O | METH_CLASS,
+		"__class_getitem__($type, item, /)\n--\n\nArray[type], for annotations."},
 	{nullptr, nullptr, 0, nullptr},
 };
 
@@ -263,7 +325,11 @@ FPythonRef PythonContainers::MakeArrayType()
 		.Function(Py_tp_repr, &ArrayToRepr)
 		.Function(Py_tp_richcompare, &CompareArrays)
 		.Function(Py_tp_hash, &PyObject_HashNotImplemented)
+		.Function(Py_tp_iter, &PySeqIter_New)
 		.Function(Py_sq_length, &ArrayLength)
+		.Function(Py_sq_contains, &ArrayContains)
+		.Function(Py_sq_repeat, &RepeatArray)
+		.Function(Py_sq_inplace_repeat, &RepeatInPlace)
 		.Function(Py_sq_item, &ArrayItem)
 		.Function(Py_sq_concat, &ConcatenateArray)
 		.Function(Py_sq_inplace_concat, &ExtendInPlace)
