@@ -1,6 +1,7 @@
+#include "PythonContainerIterator.h"
 #include "PythonContainers.h"
 #include "PythonErrors.h"
-#include "PythonMappings.h"
+#include "PythonInterpreter.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
 
@@ -29,7 +30,12 @@ static bool AddTo(const FPythonContainerType& Type, FScriptMapHelper& Helper, Py
 
 bool PythonContainers::FillMap(const FPythonContainerType& Type, PyObject* Value, void* Memory)
 {
-	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? PythonMappings::ItemsOf(Value) : FPythonRef();
+	if (IsOfType(Type, Value))
+	{
+		Type.Property->CopyCompleteValue(Memory, FPythonContainer::From(Value).Memory);
+		return true;
+	}
+	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? FPythonRef::Steal(PyMapping_Items(Value)) : FPythonRef();
 	if (!Items)
 	{
 		PyErr_Clear();
@@ -90,39 +96,33 @@ static FPythonRef ValueAt(PyObject* Self, int32 Index)
 	return FPythonContainer::From(Self).Type->Value->ToPython(HelperOf(Self).GetValuePtr(Index));
 }
 
-static FPythonRef ItemAt(PyObject* Self, int32 Index)
-{
-	const FPythonRef Key = KeyAt(Self, Index);
-	const FPythonRef Value = Key ? ValueAt(Self, Index) : FPythonRef();
-	return Value ? FPythonRef::Steal(PyTuple_Pack(2, Key.Get(), Value.Get())) : FPythonRef();
-}
-
-/** A list of what Get gives for each place. */
-template <FPythonRef (*Get)(PyObject* Self, int32 Index)>
-static PyObject* ListMap(PyObject* Self, PyObject*)
-{
-	const FScriptMapHelper Helper = HelperOf(Self);
-	const FPythonRef List = FPythonRef::Steal(PyList_New(0));
-	for (int32 Index = 0; List && Index < Helper.GetMaxIndex(); ++Index)
-	{
-		if (!Helper.IsValidIndex(Index))
-		{
-			continue;
-		}
-		const FPythonRef Part = Get(Self, Index);
-		if (!Part || PyList_Append(List.Get(), Part.Get()) < 0)
-		{
-			return nullptr;
-		}
-	}
-	return FPythonRef(List).Release();
-}
+static const PythonContainerIterator::FPlaces GMapPlaces = {
+	[](PyObject* Self) { return HelperOf(Self).Num(); },
+	[](PyObject* Self) { return HelperOf(Self).GetMaxIndex(); },
+	[](PyObject* Self, int32 Index) { return HelperOf(Self).IsValidIndex(Index); },
+	&KeyAt,
+};
 
 static PyObject* IterateMap(PyObject* Self)
 {
-	const FPythonRef Keys = FPythonRef::Steal(ListMap<&KeyAt>(Self, nullptr));
-	return Keys ? PyObject_GetIter(Keys.Get()) : nullptr;
+	return PythonContainerIterator::Make(Self, GMapPlaces).Release();
 }
+
+static PyObject* IterateMapBackwards(PyObject* Self, PyObject*)
+{
+	return PythonContainerIterator::Make(Self, GMapPlaces, true).Release();
+}
+
+/** A live view of the map, which is a class of the Python part of this module. */
+template <const ANSICHAR* const& ViewClass>
+static PyObject* ViewMap(PyObject* Self, PyObject*)
+{
+	return FPythonInterpreter::CallBootstrap(ViewClass, Self).Release();
+}
+
+static const ANSICHAR* const GKeysClass = "MapKeys";
+static const ANSICHAR* const GValuesClass = "MapValues";
+static const ANSICHAR* const GItemsClass = "MapItems";
 
 static int MapContains(PyObject* Self, PyObject* Key)
 {
@@ -186,6 +186,56 @@ static PyObject* PopFromMap(PyObject* Self, PyObject* Arguments)
 	return Value && SetMapItem(Self, Key, nullptr) == 0 ? Value.Release() : nullptr;
 }
 
+/** The value of a key, which is added first if it is not there. Without a default its value is the usual one of its type. */
+static PyObject* SetDefaultInMap(PyObject* Self, PyObject* Arguments)
+{
+	PyObject* Key = nullptr;
+	PyObject* Default = nullptr;
+	if (!PyArg_ParseTuple(Arguments, "O|O:setdefault", &Key, &Default))
+	{
+		return nullptr;
+	}
+	const FPythonContainerType& Type = *FPythonContainer::From(Self).Type;
+	const FScopedPropertyValue ConvertedKey(Type.ElementProperty);
+	const FScopedPropertyValue Value(Type.ValueProperty);
+	if (!Type.Element->FromPython(Key, ConvertedKey.Get()))
+	{
+		return nullptr;
+	}
+	FScriptMapHelper Helper = HelperOf(Self);
+	if (Helper.FindMapIndexWithKey(ConvertedKey.Get()) == INDEX_NONE)
+	{
+		if (Default && !Type.Value->FromPython(Default, Value.Get()))
+		{
+			return nullptr;
+		}
+		Helper.AddPair(ConvertedKey.Get(), Value.Get());
+	}
+	return ValueAt(Self, Helper.FindMapIndexWithKey(ConvertedKey.Get())).Release();
+}
+
+static PyObject* PopItemFromMap(PyObject* Self, PyObject*)
+{
+	FScriptMapHelper Helper = HelperOf(Self);
+	for (int32 Index = Helper.GetMaxIndex() - 1; Index >= 0; --Index)
+	{
+		if (!Helper.IsValidIndex(Index))
+		{
+			continue;
+		}
+		const FPythonRef Key = KeyAt(Self, Index);
+		const FPythonRef Value = Key ? ValueAt(Self, Index) : FPythonRef();
+		FPythonRef Item = Value ? FPythonRef::Steal(PyTuple_Pack(2, Key.Get(), Value.Get())) : FPythonRef();
+		if (Item)
+		{
+			Helper.RemoveAt(Index);
+		}
+		return Item.Release();
+	}
+	PyErr_SetString(PyExc_KeyError, "popitem(): Map is empty");
+	return nullptr;
+}
+
 static PyObject* ClearMap(PyObject* Self, PyObject*)
 {
 	HelperOf(Self).EmptyValues();
@@ -228,6 +278,65 @@ static PyObject* CastToMap(PyObject* Type, PyObject* Arguments)
 	return Done ? Result.Release() : nullptr;
 }
 
+/** Makes a map of the types of its first key and of the value, which all keys get. */
+static PyObject* MapFromKeys(PyObject* Type, PyObject* Arguments)
+{
+	PyObject* Keys = nullptr;
+	PyObject* Value = nullptr;
+	if (!PyArg_ParseTuple(Arguments, "OO:fromkeys", &Keys, &Value))
+	{
+		return nullptr;
+	}
+	const FPythonRef List = FPythonRef::Steal(PySequence_List(Keys));
+	if (List && PyList_GET_SIZE(List.Get()) == 0)
+	{
+		PyErr_SetString(PyExc_ValueError, "fromkeys() of no key does not know the type of the keys");
+	}
+	if (PyErr_Occurred())
+	{
+		return nullptr;
+	}
+	PyObject* const KeyType = reinterpret_cast<PyObject*>(Py_TYPE(PyList_GET_ITEM(List.Get(), 0)));
+	PyObject* const ValueType = reinterpret_cast<PyObject*>(Py_TYPE(Value));
+	FPythonRef Result = FPythonRef::Steal(PyObject_CallFunctionObjArgs(Type, KeyType, ValueType, nullptr));
+	for (Py_ssize_t Index = 0; Result && Index < PyList_GET_SIZE(List.Get()); ++Index)
+	{
+		if (SetMapItem(Result.Get(), PyList_GET_ITEM(List.Get(), Index), Value) < 0)
+		{
+			return nullptr;
+		}
+	}
+	return Result.Release();
+}
+
+static bool Merge(PyObject* Map, PyObject* Pairs)
+{
+	const FPythonRef Arguments = FPythonRef::Steal(PyTuple_Pack(1, Pairs));
+	return Arguments && FPythonRef::Steal(UpdateMap(Map, Arguments.Get(), nullptr));
+}
+
+/** map | other and other | map, for other maps and dictionaries. */
+static PyObject* MergeMaps(PyObject* Left, PyObject* Right)
+{
+	PyTypeObject* const MapType = PythonContainers::MapType();
+	for (PyObject* Side : {Left, Right})
+	{
+		if (Py_TYPE(Side) != MapType && !PyDict_Check(Side))
+		{
+			Py_RETURN_NOTIMPLEMENTED;
+		}
+	}
+	const FPythonContainer& Typed = FPythonContainer::From(Py_TYPE(Left) == MapType ? Left : Right);
+	FPythonRef Result = PythonContainers::New(MapType, Typed.Type);
+	return Result && Merge(Result.Get(), Left) && Merge(Result.Get(), Right) ? Result.Release() : nullptr;
+}
+
+/** map |= pairs, which may be any mapping or iterable of pairs. */
+static PyObject* MergeInPlace(PyObject* Self, PyObject* Pairs)
+{
+	return Merge(Self, Pairs) ? FPythonRef::Borrow(Self).Release() : nullptr;
+}
+
 static PyObject* CompareMaps(PyObject* Self, PyObject* Other, int Operation)
 {
 	return PythonContainers::CompareAs(&PyDict_Type, Self, Other, Operation);
@@ -244,15 +353,25 @@ static PyMethodDef GMapMethods[] = {
 		"cast($type, key, value, obj, /)\n--\n\nMakes a Map of two types of a mapping."},
 	{"copy", PythonContainers::Copy, METH_NOARGS, "copy($self, /)\n--\n\nA copy of the map."},
 	{"__copy__", PythonContainers::Copy, METH_NOARGS, "__copy__($self, /)\n--\n\nA copy of the map."},
-	{"keys", ListMap<&KeyAt>, METH_NOARGS, "keys($self, /)\n--\n\nThe keys as a list."},
-	{"values", ListMap<&ValueAt>, METH_NOARGS, "values($self, /)\n--\n\nThe values as a list."},
-	{"items", ListMap<&ItemAt>, METH_NOARGS, "items($self, /)\n--\n\nPairs of key and value as a list."},
+	{"keys", ViewMap<GKeysClass>, METH_NOARGS, "keys($self, /)\n--\n\nThe keys, as a view that follows the map."},
+	{"values", ViewMap<GValuesClass>, METH_NOARGS, "values($self, /)\n--\n\nThe values, as a view that follows the map."},
+	{"items", ViewMap<GItemsClass>, METH_NOARGS,
+		"items($self, /)\n--\n\nPairs of key and value, as a view that follows the map."},
 	{"get", GetFromMap, METH_VARARGS, "get($self, key, default=None, /)\n--\n\nThe value of a key, or the default."},
 	{"pop", PopFromMap, METH_VARARGS,
 		"pop($self, key, default, /)\n--\n\nRemoves a key and gives its value; KeyError without key and default."},
 	{"clear", ClearMap, METH_NOARGS, "clear($self, /)\n--\n\nRemoves all keys."},
 	{"update", PythonKeywordFunction(UpdateMap), METH_VARARGS | METH_KEYWORDS,
 		"update($self, mapping=(), /, **kwargs)\n--\n\nAdds the pairs of a mapping."},
+	{"setdefault", SetDefaultInMap, METH_VARARGS,
+		"setdefault($self, key, default=None, /)\n--\n\nThe value of a key, which gets the default if it is not there."},
+	{"popitem", PopItemFromMap, METH_NOARGS,
+		"popitem($self, /)\n--\n\nRemoves the last pair and gives it; KeyError for an empty map."},
+	{"fromkeys", MapFromKeys, METH_VARARGS | METH_CLASS,
+		"fromkeys($type, iterable, value, /)\n--\n\nMakes a Map of keys that all have one value; its types are theirs."},
+	{"__reversed__", IterateMapBackwards, METH_NOARGS, "__reversed__($self, /)\n--\n\nThe keys from last to first."},
+	{"__class_getitem__", Py_GenericAlias, METH_O | METH_CLASS,
+		"__class_getitem__($type, item, /)\n--\n\nMap[key, value], for annotations."},
 	{nullptr, nullptr, 0, nullptr},
 };
 
@@ -266,6 +385,8 @@ FPythonRef PythonContainers::MakeMapType()
 		.Function(Py_tp_iter, &IterateMap)
 		.Function(Py_tp_richcompare, &CompareMaps)
 		.Function(Py_tp_hash, &PyObject_HashNotImplemented)
+		.Function(Py_nb_or, &MergeMaps)
+		.Function(Py_nb_inplace_or, &MergeInPlace)
 		.Function(Py_sq_contains, &MapContains)
 		.Function(Py_mp_length, &MapLength)
 		.Function(Py_mp_subscript, &MapItem)
