@@ -19,6 +19,25 @@ def test_a_script_that_raises_gives_status_1_and_its_traceback(shell):
     assert "LogPython: Error: ZeroDivisionError: division by zero" in shell.log_text()
 
 
+def test_shutdown_callbacks_run_while_unreal_still_works(shell):
+    script = shell.script(
+        "import unreal\n"
+        "def bad(): raise ValueError('in the way')\n"
+        "def last(): print('ended with', unreal.Vector(1, 2, 3).length_squared(), unreal.Object.static_class().get_name())\n"
+        "never = unreal.register_python_shutdown_callback(lambda: print('never'))\n"
+        "unreal.register_python_shutdown_callback(bad)\n"
+        "unreal.register_python_shutdown_callback(last)\n"
+        "unreal.unregister_python_shutdown_callback(never)\n"
+    )
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}")
+    assert run.returncode == 0
+    log = shell.log_text()
+    assert "LogPython: ended with 14.0 Object" in log
+    assert "LogPython: Error: ValueError: in the way" in log
+    assert "LogPython: Error: While handling a Python shutdown callback" in log
+    assert "never" not in log
+
+
 def test_a_script_gets_its_arguments(shell):
     script = shell.script("import sys; print('|'.join(sys.argv[1:]))")
     shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script} one two")

@@ -9,6 +9,7 @@
 #include "PythonName.h"
 #include "PythonObjects.h"
 #include "PythonProperty.h"
+#include "PythonShutdownCallbacks.h"
 #include "PythonSlateTicks.h"
 #include "PythonSlowTask.h"
 #include "PythonStruct.h"
@@ -35,6 +36,7 @@ using FRegister = bool (*)(PyObject* Module);
 static const FRegister GParts[] = {
 	&PythonModuleFunctions::Register,
 	&PythonSlateTicks::Register,
+	&PythonShutdownCallbacks::Register,
 	&PythonName::Register,
 	&PythonText::Register,
 	&PythonContainers::Register,

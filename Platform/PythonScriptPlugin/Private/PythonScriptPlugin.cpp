@@ -13,6 +13,7 @@
 #include "PythonModule.h"
 #include "PythonReferences.h"
 #include "PythonSearchPaths.h"
+#include "PythonShutdownCallbacks.h"
 #include "PythonSlateTicks.h"
 #include "PythonStubWriter.h"
 #include "UObject/GCScopeLock.h"
@@ -112,6 +113,7 @@ void FPythonScriptPlugin::StopPython()
 	{
 		return;
 	}
+	PythonShutdownCallbacks::Run();
 	PythonShutdown.Broadcast();
 	bIsAvailable = false;
 	PythonCommands::EmptyCache();

@@ -2,62 +2,19 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "Misc/CoreDelegates.h"
-#include "PythonErrors.h"
+#include "PythonCallbacks.h"
 #include "PythonInterpreter.h"
-#include "PythonLog.h"
-#include "ProfilingDebugging/CpuProfilerTrace.h"
-#include "UObject/GCScopeLock.h"
 
-/** The callbacks of one event, in the order of their registration. */
-class FPythonTickCallbacks
-{
-public:
-	explicit FPythonTickCallbacks(const TCHAR* InScopeName)
-		: ScopeName(InScopeName)
-	{
-	}
-
-	void Add(uint64 Handle, FPythonRef Function) { Callbacks.Add(Handle, MoveTemp(Function)); }
-	bool Remove(uint64 Handle) { return Callbacks.Remove(Handle) > 0; }
-	bool IsEmpty() const { return Callbacks.Num() == 0; }
-	void Empty() { Callbacks.Empty(); }
-
-	/** A callback that raises is logged and stays. One that was removed by an earlier one is not called any more. */
-	void Call(float DeltaSeconds) const
-	{
-		TArray<uint64> Handles;
-		Callbacks.GenerateKeyArray(Handles);
-		for (const uint64 Handle : Handles)
-		{
-			if (const FPythonRef* const Function = Callbacks.Find(Handle))
-			{
-				CallOne(FPythonRef(*Function), DeltaSeconds);
-			}
-		}
-	}
-
-private:
-	void CallOne(const FPythonRef Function, float DeltaSeconds) const
-	{
-		TRACE_CPUPROFILER_EVENT_SCOPE_STR(ScopeName);
-		const FGCScopeGuard NoCollection;
-		const FPythonRef Seconds = FPythonRef::Steal(PyFloat_FromDouble(DeltaSeconds));
-		if (!FPythonRef::Steal(PyObject_CallOneArg(Function.Get(), Seconds.Get())))
-		{
-			PythonErrors::Report();
-		}
-		PythonLog::FlushStandardStreams();
-	}
-
-	const TCHAR* const ScopeName;
-	TMap<uint64, FPythonRef> Callbacks;
-};
-
-static FPythonTickCallbacks GPreTickCallbacks(TEXT("a Slate pre-tick callback"));
-static FPythonTickCallbacks GPostTickCallbacks(TEXT("a Slate post-tick callback"));
+static FPythonCallbacks GPreTickCallbacks(TEXT("a Slate pre-tick callback"));
+static FPythonCallbacks GPostTickCallbacks(TEXT("a Slate post-tick callback"));
 static FDelegateHandle GPreTickHandle;
 static FDelegateHandle GPostTickHandle;
-static uint64 GLastHandle = 0;
+
+static void CallWithSeconds(const FPythonCallbacks& Callbacks, float DeltaSeconds)
+{
+	const FPythonRef Seconds = FPythonRef::Steal(PyFloat_FromDouble(DeltaSeconds));
+	Callbacks.Call(Seconds.Get());
+}
 
 static FDelegateHandle GSleepHandle;
 static FDelegateHandle GWakeHandle;
@@ -105,12 +62,12 @@ void PythonSlateTicks::Start()
 		[](float DeltaSeconds)
 		{
 			LetOtherThreadsRun();
-			GPreTickCallbacks.Call(DeltaSeconds);
+			CallWithSeconds(GPreTickCallbacks, DeltaSeconds);
 		});
 	GPostTickHandle = FSlateApplication::Get().OnPostTick().AddLambda(
 		[](float DeltaSeconds)
 		{
-			GPostTickCallbacks.Call(DeltaSeconds);
+			CallWithSeconds(GPostTickCallbacks, DeltaSeconds);
 			// Callbacks want every frame, also of an editor in which nothing else happens.
 			if (!GPreTickCallbacks.IsEmpty() || !GPostTickCallbacks.IsEmpty())
 			{
@@ -142,39 +99,23 @@ void PythonSlateTicks::ReleaseAll()
 	GPostTickCallbacks.Empty();
 }
 
-template <FPythonTickCallbacks& Callbacks>
+template <FPythonCallbacks& Callbacks>
 static PyObject* RegisterCallback(PyObject*, PyObject* Function)
 {
-	if (!FPythonInterpreter::CheckMainThread())
+	FPythonRef Handle = FPythonRef::Steal(Callbacks.Register(Function));
+	if (Handle)
 	{
-		return nullptr;
+		// The application may have come after the interpreter.
+		PythonSlateTicks::Start();
+		PythonSlateTicks::RequestFrame();
 	}
-	if (!PyCallable_Check(Function))
-	{
-		PythonErrors::RaiseUnexpectedType(TEXT("callable"), Function);
-		return nullptr;
-	}
-	// The application may have come after the interpreter.
-	PythonSlateTicks::Start();
-	PythonSlateTicks::RequestFrame();
-	Callbacks.Add(++GLastHandle, FPythonRef::Borrow(Function));
-	return PyLong_FromUnsignedLongLong(GLastHandle);
+	return Handle.Release();
 }
 
-template <FPythonTickCallbacks& Callbacks>
+template <FPythonCallbacks& Callbacks>
 static PyObject* UnregisterCallback(PyObject*, PyObject* Handle)
 {
-	if (!FPythonInterpreter::CheckMainThread())
-	{
-		return nullptr;
-	}
-	if (!PyLong_Check(Handle))
-	{
-		PythonErrors::RaiseUnexpectedType(TEXT("the handle of a callback"), Handle);
-		return nullptr;
-	}
-	Callbacks.Remove(PyLong_AsUnsignedLongLongMask(Handle));
-	Py_RETURN_NONE;
+	return Callbacks.Unregister(Handle);
 }
 
 static PyMethodDef GTickFunctions[] = {
