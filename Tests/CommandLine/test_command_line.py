@@ -19,6 +19,44 @@ def test_a_script_that_raises_gives_status_1_and_its_traceback(shell):
     assert "LogPython: Error: ZeroDivisionError: division by zero" in shell.log_text()
 
 
+@pytest.mark.parametrize(
+    "code, status, line",
+    [
+        ("sys.exit(3)", 3, "LogPython: Error: The script ended with exit status 3"),
+        ("sys.exit()", 0, ""),
+        ("sys.exit(0)", 0, ""),
+        ("sys.exit('no such tool')", 1, "LogPython: Error: no such tool"),
+        ("raise SystemExit(True)", 1, ""),
+        ("sys.exit(-1)", 255, ""),
+    ],
+)
+def test_a_script_that_exits_gives_its_status(shell, code, status, line):
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={shell.script('import sys; ' + code)}")
+    assert run.returncode == status
+    assert line in shell.log_text()
+    assert "LogLaunch: The editor has ended." in shell.log_text()
+
+
+def test_an_exit_in_a_callback_or_a_literal_command_ends_nothing(shell):
+    script = shell.script(
+        "import os, signal, sys, unreal\n"
+        "unreal.EditorPythonScripting.set_keep_python_script_alive(True)\n"
+        "calls = []\n"
+        "def on_tick(seconds):\n"
+        "    calls.append(seconds)\n"
+        "    if len(calls) == 3:\n"
+        "        print('still there')\n"
+        "        os.kill(os.getpid(), signal.SIGTERM)\n"
+        "    sys.exit(4)\n"
+        "unreal.register_slate_post_tick_callback(on_tick)\n"
+        "unreal.PythonScriptLibrary.execute_python_command('import sys; sys.exit(5)')\n"
+    )
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}")
+    assert run.returncode == 128 + signal.SIGTERM
+    assert "LogPython: still there" in shell.log_text()
+    assert "LogPython: Error: The script ended with exit status 5" in shell.log_text()
+
+
 def test_shutdown_callbacks_run_while_unreal_still_works(shell):
     script = shell.script(
         "import unreal\n"

@@ -9,7 +9,7 @@
 #include "HAL/FileManager.h"
 #include "HAL/IConsoleManager.h"
 #include "HAL/PlatformMisc.h"
-#include "IPythonScriptPlugin.h"
+#include "PythonScriptOfProcess.h"
 #include "Interfaces/IPluginManager.h"
 #include "MainWindow.h"
 #include "Misc/App.h"
@@ -256,12 +256,10 @@ void FEngineLoop::RunCommandLineCommands()
 			// A name with blanks in it would be taken for a file with arguments.
 			Script = TEXT("\"") + ScriptFile + TEXT("\"");
 		}
-		IPythonScriptPlugin* const Python = IPythonScriptPlugin::Get();
-		const bool bSucceeded = Python && Python->ExecPythonCommand(*Script);
-		if (!bSucceeded)
+		ScriptStatus = RunPythonScriptOfProcess(*Script);
+		if (ScriptStatus != 0)
 		{
 			UE_LOG(LogLaunch, Error, TEXT("The script failed: %s"), *Script);
-			bScriptFailed = true;
 		}
 		if (!UEditorPythonScripting::GetKeepPythonScriptAlive())
 		{
@@ -292,7 +290,7 @@ void FEngineLoop::WaitForWork(double Longest)
 
 int32 FEngineLoop::GetExitStatus() const
 {
-	return bScriptFailed ? 1 : FPlatformMisc::GetRequestedReturnCode();
+	return ScriptStatus != 0 ? ScriptStatus : FPlatformMisc::GetRequestedReturnCode();
 }
 
 void FEngineLoop::Exit()

@@ -2,7 +2,6 @@
 
 #include "CoreMinimal.h"
 
-class FGarbageSchedule;
 class FOutputDeviceFile;
 class FOutputDeviceStdOutput;
 class FTerminationSignals;
@@ -38,10 +37,7 @@ public:
 	/** False for a start without a display, a script and a command to quit: nobody could use the editor, and nobody would end it. */
 	bool HasUser() const;
 
-	/**
-	 * One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole, but for the
-	 * collection of garbage: what is on the stack of the outer one may hold pointers.
-	 */
+	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
 	void Tick();
 
 	/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
@@ -54,8 +50,8 @@ public:
 	void Exit();
 
 	/**
-	 * The status for the parent process: 1 when the script of the command line failed, 128 and the number of the signal when one
-	 * ended the editor, otherwise what was asked for with FPlatformMisc::RequestExitWithStatus.
+	 * The status for the parent process: 1 when the script of the command line failed or what it gave to sys.exit(), 128 and the
+	 * number of the signal when one ended the editor, otherwise what was asked for with FPlatformMisc::RequestExitWithStatus.
 	 */
 	int32 GetExitStatus() const;
 
@@ -72,9 +68,7 @@ private:
 	TUniquePtr<FTerminalReport> TerminalReport;
 	TUniquePtr<FTerminationSignals> Signals;
 	TSharedPtr<SWindow> MainWindow;
-	TUniquePtr<FGarbageSchedule> GarbageSchedule;
-	bool bInFrame = false;
-	bool bScriptFailed = false;
+	uint8 ScriptStatus = 0;
 	bool bCommandsDone = false;
 };
 

@@ -24,31 +24,32 @@ static int StartSymbolOf(EPythonCommandExecutionMode Mode)
 	}
 }
 
-/** A SystemExit ends the script, never the editor. Returns whether its status means success. */
-static bool FinishExit(const FPythonError& Exit)
+/** A SystemExit ends the script, never the editor. Returns its status; a text is one of 1, as for Python itself. */
+static int32 FinishExit(const FPythonError& Exit)
 {
 	const FPythonRef Status = FPythonRef::Steal(PyObject_GetAttrString(Exit.Get(), "code"));
 	if (!Status || Status.Get() == Py_None)
 	{
 		PyErr_Clear();
-		return true;
+		return 0;
 	}
-	if (PyLong_Check(Status.Get()))
+	if (!PyLong_Check(Status.Get()))
 	{
-		const FString Number = PythonStrings::Describe(Status.Get());
-		if (Number == TEXT("0"))
-		{
-			return true;
-		}
-		PythonLog::Write(EPythonLogOutputType::Error, TEXT("The script ended with exit status ") + Number);
-		return false;
+		PythonLog::Write(EPythonLogOutputType::Error, PythonStrings::Describe(Status.Get()));
+		return 1;
 	}
-	PythonLog::Write(EPythonLogOutputType::Error, PythonStrings::Describe(Status.Get()));
-	return false;
+	int Overflow = 0;
+	const long Number = PyLong_AsLongAndOverflow(Status.Get(), &Overflow);
+	if (Number != 0)
+	{
+		PythonLog::Write(
+			EPythonLogOutputType::Error, TEXT("The script ended with exit status ") + PythonStrings::Describe(Status.Get()));
+	}
+	return Overflow ? -1 : static_cast<int32>(Number);
 }
 
-/** Ends a failed run: logs the error. Returns true if it was an orderly exit after all. */
-static bool FinishError(FString* OutTraceback)
+/** Ends a failed run: logs the error. Returns the status, 0 if it was an orderly exit after all. */
+static int32 FinishError(FString* OutTraceback)
 {
 	if (PyErr_ExceptionMatches(PyExc_SystemExit))
 	{
@@ -60,7 +61,7 @@ static bool FinishError(FString* OutTraceback)
 	{
 		*OutTraceback = Traceback;
 	}
-	return false;
+	return 1;
 }
 
 /** Compiles bytes or text under a file name, which tracebacks show. */
@@ -246,7 +247,7 @@ static FPythonRef Execute(const TCHAR* Text, int32 Length, EPythonCommandExecuti
 	return Call(Function);
 }
 
-bool PythonCommands::Run(const TCHAR* Command)
+int32 PythonCommands::Run(const TCHAR* Command)
 {
 	const FPythonRef Result =
 		Execute(Command, FCString::Strlen(Command), EPythonCommandExecutionMode::ExecuteFile, EPythonFileExecutionScope::Private);
@@ -255,7 +256,7 @@ bool PythonCommands::Run(const TCHAR* Command)
 		return FinishError(nullptr);
 	}
 	PythonLog::FlushStandardStreams();
-	return true;
+	return 0;
 }
 
 bool PythonCommands::Run(FPythonCommandEx& Command)
@@ -268,7 +269,7 @@ bool PythonCommands::Run(FPythonCommandEx& Command)
 	const FPythonRef Text = Result ? FPythonRef::Steal(PyObject_Repr(Result.Get())) : FPythonRef();
 	if (!Text)
 	{
-		return FinishError(&Command.CommandResult);
+		return FinishError(&Command.CommandResult) == 0;
 	}
 	PythonLog::FlushStandardStreams();
 	Command.CommandResult = PythonStrings::FromStr(Text.Get());

@@ -139,14 +139,19 @@ bool FPythonScriptPlugin::CanRun() const
 
 bool FPythonScriptPlugin::ExecPythonCommand(const TCHAR* PythonCommand)
 {
+	return RunForStatus(PythonCommand) == 0;
+}
+
+int32 FPythonScriptPlugin::RunForStatus(const TCHAR* PythonCommand)
+{
 	if (!CanRun())
 	{
-		return false;
+		return 1;
 	}
 	const FGCScopeGuard NoCollection;
-	const bool bSucceeded = PythonCommands::Run(PythonCommand);
+	const int32 Status = PythonCommands::Run(PythonCommand);
 	PythonSlateTicks::RequestFrame();
-	return bSucceeded;
+	return Status;
 }
 
 bool FPythonScriptPlugin::ExecPythonCommandEx(FPythonCommandEx& InOutPythonCommand)

@@ -16,6 +16,9 @@ public:
 	FSimpleMulticastDelegate& OnPythonInitialized() override { return PythonInitialized; }
 	FSimpleMulticastDelegate& OnPythonShutdown() override { return PythonShutdown; }
 
+	/** ExecPythonCommand with the status that Python itself would end with; 1 if it could not run. */
+	int32 RunForStatus(const TCHAR* PythonCommand);
+
 private:
 	/** The console input "py <text>" or "py <file.py> <arguments>". */
 	bool Exec(UWorld* InWorld, const TCHAR* Cmd, FOutputDevice& Ar) override;
