@@ -2,6 +2,7 @@
 
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
+#include "PythonConstants.h"
 #include "PythonDocs.h"
 #include "PythonErrors.h"
 #include "PythonFunction.h"
@@ -10,8 +11,10 @@
 #include "PythonMethods.h"
 #include "PythonModule.h"
 #include "PythonNaming.h"
+#include "PythonOperators.h"
 #include "PythonProperty.h"
 #include "PythonStrings.h"
+#include "PythonStructFields.h"
 #include "PythonTypeTable.h"
 #include "UObject/UnrealType.h"
 
@@ -19,7 +22,12 @@
 static FString DocString(const FString& Text, int32 Depth)
 {
 	const FString Indent = FString::ChrN(Depth * 4, TEXT(' '));
-	const FString Escaped = Text.Replace(TEXT("\\"), TEXT("\\\\")).Replace(TEXT("\"\"\""), TEXT("\\\"\\\"\\\""));
+	FString Escaped = Text.Replace(TEXT("\\"), TEXT("\\\\")).Replace(TEXT("\"\"\""), TEXT("\\\"\\\"\\\""));
+	if (Escaped.EndsWith(TEXT("\"")))
+	{
+		// It would be one of the marks that end the text.
+		Escaped = Escaped.LeftChop(1) + TEXT("\\\"");
+	}
 	return Indent + TEXT("\"\"\"") + Escaped.Replace(TEXT("\n"), *(TEXT("\n") + Indent)) + TEXT("\"\"\"\n");
 }
 
@@ -33,18 +41,61 @@ static FString DescribeMethod(const FPythonFunction& Function)
 		*DocString(PythonDocs::Describe(Function), 2));
 }
 
-static FString DescribeMethods(const UClass* Class)
+static FString JoinUnion(const TArray<FString>& Types)
+{
+	return Types.Num() == 1 ? Types[0] : FString::Printf(TEXT("Union[%s]"), *FString::Join(Types, TEXT(", ")));
+}
+
+/** One definition for all functions of an operator: what the right operand may be, what comes out. */
+static FString DescribeOperator(const FString& Name, const TArray<const FPythonFunction*>& Functions)
+{
+	TArray<FString> Operands;
+	TArray<FString> Results;
+	FString Doc;
+	for (const FPythonFunction* Function : Functions)
+	{
+		if (Function->GetInputs().Num() > 0)
+		{
+			Operands.AddUnique(Function->GetInputs()[0].Converter->AcceptedTypeName());
+		}
+		// What gives nothing has changed its left operand, which is the result then.
+		Results.AddUnique((Function->GetReturn() ? Function->GetReturn() : Function->GetSelf())->Converter->TypeName());
+		Doc += (Doc.IsEmpty() ? TEXT("") : TEXT("\n")) + Function->GetFunction()->GetToolTipText().ToString();
+	}
+	// Whatever one asks to be equal is no wrong type.
+	const bool bTakesAll = Name == TEXT("__eq__") || Name == TEXT("__ne__");
+	const FString Right = Operands.Num() == 0 ? TEXT("") : TEXT(", other: ") + (bTakesAll ? TEXT("object") : JoinUnion(Operands));
+	return FString::Printf(
+		TEXT("    def %s(self%s) -> %s:\n%s        ...\n\n"), *Name, *Right, *JoinUnion(Results), *DocString(Doc, 2));
+}
+
+static FString DescribeConstant(const FPythonFunction& Constant)
+{
+	return FString::Printf(TEXT("    %s: \"%s\" = ...\n%s\n"), *Constant.GetName(), *Constant.ResultTypeName(),
+		*DocString(Constant.GetFunction()->GetToolTipText().ToString(), 1));
+}
+
+/** The methods, operators and constants that a type got from functions, under all of their names. */
+static FString DescribeFunctions(PyTypeObject* Type)
 {
 	FString Text;
-	for (TFieldIterator<UFunction> It(Class, EFieldIteratorFlags::ExcludeSuper); It; ++It)
+	PyObject* Name = nullptr;
+	PyObject* Attribute = nullptr;
+	Py_ssize_t Place = 0;
+	while (Type && PyDict_Next(Type->tp_dict, &Place, &Name, &Attribute))
 	{
-		if (!PythonMethods::IsExposed(*It))
+		const TArray<const FPythonFunction*> Operators = PythonOperators::FunctionsOf(Attribute);
+		if (const FPythonFunction* const Method = PythonMethods::FunctionOf(Attribute))
 		{
-			continue;
+			Text += DescribeMethod(*Method);
 		}
-		if (const TUniquePtr<FPythonFunction> Function = FPythonFunction::Make(*It, PythonNaming::NamesOf(*It)[0], FString()))
+		else if (const FPythonFunction* const Constant = PythonConstants::FunctionOf(Attribute))
 		{
-			Text += DescribeMethod(*Function);
+			Text += DescribeConstant(*Constant);
+		}
+		else if (Operators.Num() > 0)
+		{
+			Text += DescribeOperator(PythonStrings::FromStr(Name), Operators);
 		}
 	}
 	return Text;
@@ -88,25 +139,33 @@ static FString DescribeClass(const UClass* Class)
 {
 	const FString Base = Class->GetSuperClass() ? PythonNaming::NameOf(Class->GetSuperClass()) : FString(TEXT("_ObjectBase"));
 	return DescribeType(PythonNaming::NameOf(Class), Base, Class->GetToolTipText().ToString(),
-		DescribeAttributes(Class) + DescribeMethods(Class));
+		DescribeAttributes(Class) + DescribeFunctions(PythonTypeTable::OwnTypeOf(Class)));
 }
 
-/** The constructor takes all fields, by position or by name. */
-static FString DescribeStructConstructor(const UScriptStruct* Struct)
+/** The constructor takes what the native make function takes, otherwise all fields, by position or by name. */
+static FString DescribeStructConstructor(UScriptStruct* Struct)
 {
 	FString Parameters;
-	for (const TUniquePtr<FPythonProperty>& Field : FPythonPropertyTable::Of(Struct)->GetAll())
+	if (const FPythonFunction* const Make = PythonStructFields::FindMake(Struct))
 	{
-		Parameters += FString::Printf(TEXT(", %s: %s = ..."), *Field->GetName(), *Field->GetConverter().AcceptedTypeName());
+		Parameters = TEXT(", ") + PythonDocs::TypedParameters(*Make);
+	}
+	else
+	{
+		for (const TUniquePtr<FPythonProperty>& Field : FPythonPropertyTable::Of(Struct)->GetAll())
+		{
+			Parameters += FString::Printf(TEXT(", %s: %s = ..."), *Field->GetName(), *Field->GetConverter().AcceptedTypeName());
+		}
 	}
 	return FString::Printf(TEXT("    def __init__(self%s) -> None:\n        ...\n\n"), *Parameters);
 }
 
-static FString DescribeStruct(const UScriptStruct* Struct)
+static FString DescribeStruct(UScriptStruct* Struct)
 {
 	const UScriptStruct* const Parent = static_cast<const UScriptStruct*>(Struct->GetSuperStruct());
 	return DescribeType(PythonNaming::NameOf(Struct), Parent ? PythonNaming::NameOf(Parent) : FString(TEXT("StructBase")),
-		Struct->GetToolTipText().ToString(), DescribeStructConstructor(Struct) + DescribeAttributes(Struct));
+		Struct->GetToolTipText().ToString(),
+		DescribeStructConstructor(Struct) + DescribeAttributes(Struct) + DescribeFunctions(PythonTypeTable::OwnTypeOf(Struct)));
 }
 
 static FString DescribeEnum(UEnum* Enum)
@@ -149,7 +208,7 @@ FString PythonStubWriter::Describe()
 	{
 		Text += DescribeEnum(Enum);
 	}
-	for (const UScriptStruct* Struct : PythonTypeTable::Structs())
+	for (UScriptStruct* Struct : PythonTypeTable::Structs())
 	{
 		Text += DescribeStruct(Struct);
 	}

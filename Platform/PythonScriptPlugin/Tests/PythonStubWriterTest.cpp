@@ -44,3 +44,44 @@ TEST(PythonStubWriter, HasEveryPublicNameOfTheModule)
 		*Project.Path(TEXT("Stub/unreal.py")))));
 	EXPECT_EQ(Evaluate(TEXT("[n for n in dir(unreal) if not n.startswith('_') and n not in described]")), TEXT("[]"));
 }
+
+TEST(PythonStubWriter, ShowsMethodsOperatorsAndConstantsOfLibraries)
+{
+	const FString Text = PythonStubWriter::Describe();
+	const auto Has = [&Text](const TCHAR* Part)
+	{
+		return Text.Contains(Part, ESearchCase::CaseSensitive);
+	};
+	EXPECT_TRUE(Has(TEXT(
+		"    def steps_to(self, other: Union[PythonTestPlace, Mapping[str, Any], Sequence[Any]], stride: int = 2) -> int:\n")));
+	EXPECT_TRUE(Has(TEXT("    def steps(self, other: ")));
+	EXPECT_TRUE(Has(TEXT("    def relabel(self, label: str) -> None:\n")));
+	EXPECT_TRUE(Has(TEXT("    def __lshift__(self, other: Union[str, int]) -> PythonTestPlace:\n")));
+	EXPECT_TRUE(Has(TEXT("    def __ilshift__(self, other: Union[str, int]) -> PythonTestPlace:\n")));
+	EXPECT_TRUE(Has(TEXT("    def __bool__(self) -> bool:\n")));
+	EXPECT_TRUE(Has(TEXT("    def __eq__(self, other: object) -> bool:\n")));
+	EXPECT_TRUE(Has(TEXT("    CELLAR: \"PythonTestPlace\" = ...\n")));
+	EXPECT_TRUE(Has(TEXT("    LOWEST_FLOOR: \"int\" = ...\n")));
+	EXPECT_TRUE(Has(TEXT("    def __init__(self, roll: float = 0.0, pitch: float = 0.0, yaw: float = 0.0) -> None:\n")));
+	EXPECT_TRUE(
+		Has(TEXT("class Array:\n    \"\"\"A list of values of one type.\"\"\"\n\n    def __init__(self, type) -> None:\n")));
+}
+
+TEST(PythonStubWriter, EveryTypeHasTheSameNamesInStubAndRuntime)
+{
+	const FTempProject Project;
+	EXPECT_TRUE(PythonStubWriter::Write(Project.Path(TEXT("Stub"))));
+	EXPECT_TRUE(RunPython(FString::Printf(
+		TEXT("import ast\ntree = ast.parse(open('%s', encoding='utf-8').read())"), *Project.Path(TEXT("Stub/unreal.pyi")))));
+	EXPECT_TRUE(
+		RunPython(TEXT("def name_of(node): return node.name if hasattr(node, 'name') else getattr(node, 'target', node).id\n"
+					   "kinds = (ast.FunctionDef, ast.AnnAssign)\n"
+					   "stub = {c.name: {name_of(n) for n in c.body if isinstance(n, kinds)} for c in tree.body "
+					   "if isinstance(c, ast.ClassDef)}\n"
+					   "common = {'__class__', '__doc__', '__hash__', '__init__', '__module__', '__new__'}\n"
+					   "types = {n: t for n, t in vars(unreal).items() if isinstance(t, type)}\n"
+					   "runtime = {n: set(vars(t)) - common for n, t in types.items()}")));
+	EXPECT_EQ(Evaluate(TEXT("len(runtime) > 30 and sorted(set(runtime) ^ set(stub))")), TEXT("[]"));
+	EXPECT_EQ(
+		Evaluate(TEXT("{n: (runtime[n] ^ stub[n]) - common for n in runtime if (runtime[n] ^ stub[n]) - common}")), TEXT("{}"));
+}

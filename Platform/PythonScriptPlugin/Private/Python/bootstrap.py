@@ -152,21 +152,38 @@ def _describe_callable(name, function, indent, decorator=""):
     return f'{decorator}{indent}def {name}{signature}:\n{indent}    """{documentation}"""\n{indent}    ...\n\n'
 
 
+def _describe_constructor(built_in):
+    """What a call of the type takes, as its documentation says."""
+    try:
+        parameters = inspect.signature(built_in).parameters.values()
+    except (TypeError, ValueError):
+        return ""
+    listed = "".join(f", {parameter.name}" + ("" if parameter.default is parameter.empty else "=...") for parameter in parameters)
+    return f"    def __init__(self{listed}) -> None:\n        ...\n\n"
+
+
+# What every type has, and how an instance is made.
+_UNSHOWN = {"__class__", "__doc__", "__hash__", "__init__", "__module__", "__new__"}
+
+
 def _describe_type(name, built_in):
     base = built_in.__base__.__name__
-    lines = [f'class {name}{"" if base == "object" else f"({base})"}:\n    """{inspect.getdoc(built_in) or ""}"""\n\n']
+    head = f'class {name}{"" if base == "object" else f"({base})"}:\n    """{inspect.getdoc(built_in) or ""}"""\n\n'
+    lines = [head, _describe_constructor(built_in)]
     for member, value in list(vars(built_in).items()):
+        if member in _UNSHOWN:
+            continue
         if isinstance(value, types.ClassMethodDescriptorType):
             bound = getattr(built_in, member)
             text = _describe_callable(member, bound, "    ", "    @classmethod\n")
             lines.append(text.replace(f"def {member}(", f"def {member}(cls, ", 1).replace("(cls, )", "(cls)", 1))
         elif isinstance(value, staticmethod):
             lines.append(_describe_callable(member, getattr(built_in, member), "    ", "    @staticmethod\n"))
-        elif inspect.isroutine(value) and not member.startswith("__"):
+        elif inspect.isroutine(value):
             lines.append(_describe_callable(member, value, "    "))
         elif inspect.isgetsetdescriptor(value) and not member.startswith("__"):
             lines.append(f"    @property\n    def {member}(self) -> Any:\n        ...\n\n")
-    return "".join(lines) + ("    ...\n\n" if len(lines) == 1 else "") + "\n"
+    return "".join(lines) + ("" if any(lines[1:]) else "    ...\n\n") + "\n"
 
 
 def describe_built_ins(unreal):
