@@ -122,9 +122,7 @@ static bool SetByKeyword(UScriptStruct* Struct, Py_ssize_t PositionalCount, PyOb
 					TEXT("argument for %s() given by name ('%s') and position (%d)"), *TypeName, *Field->GetName(), Index + 1));
 			return false;
 		}
-		// The value may be a script's, which must not see it go.
-		const FPythonRef Held = FPythonRef::Borrow(Value);
-		if (!Field->Set(Memory, Held.Get()))
+		if (!Field->Set(Memory, Value))
 		{
 			return false;
 		}
@@ -263,16 +261,19 @@ bool PythonStructFields::SetByName(UScriptStruct* Struct, PyObject* Mapping, voi
 	{
 		return MakeByName(Struct, *Make, Mapping, Memory);
 	}
-	const FPythonRef Items = FPythonRef::Steal(PyMapping_Items(Mapping));
-	if (!Items)
+	// A dictionary of our own: a script's mapping may give anything as its items, and change while its values are looked at.
+	const FPythonRef Values = FPythonRef::Steal(PyDict_New());
+	if (!Values || PyDict_Update(Values.Get(), Mapping) < 0)
 	{
 		return false;
 	}
-	for (Py_ssize_t Index = 0; Index < PyList_GET_SIZE(Items.Get()); ++Index)
+	PyObject* Name = nullptr;
+	PyObject* Value = nullptr;
+	Py_ssize_t Place = 0;
+	while (PyDict_Next(Values.Get(), &Place, &Name, &Value))
 	{
-		PyObject* const Item = PyList_GET_ITEM(Items.Get(), Index);
-		const FPythonProperty* const Field = PythonProperty::FindOrRaise(*Table, Struct, PyTuple_GET_ITEM(Item, 0));
-		if (!Field || !Field->Set(Memory, PyTuple_GET_ITEM(Item, 1)))
+		const FPythonProperty* const Field = PythonProperty::FindOrRaise(*Table, Struct, Name);
+		if (!Field || !Field->Set(Memory, Value))
 		{
 			return false;
 		}

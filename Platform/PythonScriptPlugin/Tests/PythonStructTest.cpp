@@ -28,6 +28,16 @@ TEST(PythonStruct, ParametersTakeStructMappingOrSequence)
 			 "sequence, got Vector"));
 }
 
+TEST(PythonStruct, MappingsOfScriptsMayGiveAnything)
+{
+	EXPECT_TRUE(
+		RunPython(TEXT("class Odd(dict):\n    def items(self): return [1, 'x']\n    def keys(self): return ['floor', 'x']")));
+	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestFunctions.echo_place(Odd(floor=3, x=2)).to_tuple()")), TEXT("(2.0, 3, '')"));
+	EXPECT_TRUE(RunPython(TEXT("class Lost:\n    def keys(self): return [1]\n    def __getitem__(self, key): return key")));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace.cast(Lost())")),
+		TEXT("TypeError: expected Name or str as name of a property, got int"));
+}
+
 TEST(PythonStruct, ValuesCompareByContent)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.Vector2D(1, 2) == unreal.Vector2D(1, 2)")), TEXT("True"));
