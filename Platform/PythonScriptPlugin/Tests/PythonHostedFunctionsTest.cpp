@@ -76,7 +76,9 @@ TEST(PythonScriptOperator, TellsTruthEqualityAndItsOpposite)
 
 TEST(PythonScriptOperator, AnErrorOfTheOperandsOwnIsRaised)
 {
-	EXPECT_EQ(ErrorOf(TEXT("class Bad(dict):\n    def items(self): 1 / 0\nunreal.PythonTestPlace() == Bad(a=1)")),
+	EXPECT_EQ(
+		ErrorOf(TEXT(
+			"class Bad(dict):\n    def keys(self): 1 / 0\n    def __iter__(self): 1 / 0\nunreal.PythonTestPlace() == Bad(a=1)")),
 		TEXT("ZeroDivisionError: division by zero"));
 }
 
@@ -88,4 +90,22 @@ TEST(PythonScriptConstant, IsAnAttributeOfTheTypeThatNobodyCanChange)
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestPlace().CELLAR.floor")), TEXT("-1"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace().CELLAR = None")),
 		TEXT("AttributeError: constant 'CELLAR' of 'PythonTestPlace' is read-only"));
+}
+
+TEST(PythonHostedFunctions, WhatCannotBeWhatItsMetadataSaysIsLeftOutWithAWarning)
+{
+	const FString Class = TEXT("/Script/PythonScriptPluginTests.PythonTestMisplacedLibrary:");
+	EXPECT_EQ(WarningsOfStart(),
+		TArray<FString>({
+			Class + TEXT("WithoutResult: cannot be the operator '+' of 'PythonTestPlace'"),
+			Class + TEXT("WithUnknownSign: cannot be the operator '@' of 'PythonTestPlace'"),
+			Class + TEXT("WithoutTruth: cannot be the operator '<' of 'PythonTestPlace'"),
+			Class + TEXT("OfNumber: ScriptMethod wants a static function and a type that has it"),
+			Class + TEXT("OfMember: ScriptMethod wants a static function and a type that has it"),
+			Class + TEXT("WithParameter: cannot be the constant 'CHANGING' of 'PythonTestPlace'"),
+		}));
+	EXPECT_EQ(
+		Evaluate(TEXT("[n for n in ('__add__', '__matmul__', 'member', 'CHANGING') if hasattr(unreal.PythonTestPlace, n)]")),
+		TEXT("[]"));
+	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestMisplacedFunctions.of_number(4)")), TEXT("4"));
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+static TArray<FString> GWarningsOfStart;
+
 class FPythonEnvironment final : public testing::Environment
 {
 public:
@@ -11,8 +13,10 @@ public:
 	{
 		ProcessNewlyLoadedUObjects();
 		FModuleManager::Get().StartProcessingNewlyLoadedObjects();
+		const FLogCapture Log(TEXT("LogPython"));
 		const IPythonScriptPlugin& Python = FModuleManager::LoadModuleChecked<IPythonScriptPlugin>(TEXT("PythonScriptPlugin"));
 		ASSERT_TRUE(Python.IsPythonAvailable());
+		GWarningsOfStart = Log.Warnings();
 	}
 
 	void TearDown() override { FModuleManager::Get().UnloadModulesAtShutdown(); }
@@ -51,4 +55,9 @@ FString PythonTest::ErrorOf(const FString& Statements)
 {
 	const FString Result = RunEx(Statements).CommandResult;
 	return Result == TEXT("None") ? FString() : LastLine(Result);
+}
+
+const TArray<FString>& PythonTest::WarningsOfStart()
+{
+	return GWarningsOfStart;
 }

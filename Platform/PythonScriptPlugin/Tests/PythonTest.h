@@ -14,6 +14,9 @@ FString Evaluate(const FString& Expression);
 /** What statements raise, as "Type: message"; empty if they raise nothing. */
 FString ErrorOf(const FString& Statements);
 
+/** The Warnings in LogPython with which Python started. */
+const TArray<FString>& WarningsOfStart();
+
 FPythonCommandEx RunEx(const FString& Command, EPythonCommandExecutionMode Mode = EPythonCommandExecutionMode::ExecuteFile,
 	EPythonFileExecutionScope Scope = EPythonFileExecutionScope::Private);
 }

@@ -255,3 +255,32 @@ int32 UPythonTestHostedLibrary::GetLowestFloor()
 {
 	return -4;
 }
+
+void UPythonTestMisplacedLibrary::WithoutResult(const FPythonTestPlace& Place, int32 Number)
+{
+}
+
+int32 UPythonTestMisplacedLibrary::WithUnknownSign(const FPythonTestPlace& Place, int32 Number)
+{
+	return Number;
+}
+
+int32 UPythonTestMisplacedLibrary::WithoutTruth(const FPythonTestPlace& Place, int32 Number)
+{
+	return Number;
+}
+
+int32 UPythonTestMisplacedLibrary::OfNumber(int32 Number)
+{
+	return Number;
+}
+
+int32 UPythonTestMisplacedLibrary::OfMember(const FPythonTestPlace& Place)
+{
+	return Place.Floor;
+}
+
+FPythonTestPlace UPythonTestMisplacedLibrary::WithParameter(int32 Number)
+{
+	return FPythonTestPlace();
+}

@@ -260,3 +260,29 @@ public:
 		meta = (ScriptConstant = "LowestFloor", ScriptConstantHost = "/Script/PythonScriptPluginTests.PythonTestPlace"))
 	static int32 GetLowestFloor();
 };
+
+/** Functions that cannot be what their metadata says. */
+UCLASS(meta = (ScriptName = "PythonTestMisplacedFunctions"))
+class UPythonTestMisplacedLibrary : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptOperator = "+"))
+	static void WithoutResult(const FPythonTestPlace& Place, int32 Number);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptOperator = "@"))
+	static int32 WithUnknownSign(const FPythonTestPlace& Place, int32 Number);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptOperator = "<"))
+	static int32 WithoutTruth(const FPythonTestPlace& Place, int32 Number);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod = "Nowhere"))
+	static int32 OfNumber(int32 Number);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptMethod = "Member"))
+	int32 OfMember(const FPythonTestPlace& Place);
+
+	UFUNCTION(BlueprintCallable, Category = "Test", meta = (ScriptConstant = "Changing"))
+	static FPythonTestPlace WithParameter(int32 Number);
+};
