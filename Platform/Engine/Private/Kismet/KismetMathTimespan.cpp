@@ -5,11 +5,12 @@
 
 FTimespan UKismetMathLibrary::MakeTimespan(int32 Days, int32 Hours, int32 Minutes, int32 Seconds, int32 Milliseconds)
 {
-	// Only days go beyond the range; the rest together is less than a hundred thousand of them.
 	const int64 OfDays = SaturatedTicks::Multiply(Days, ETimespan::TicksPerDay);
-	const int64 OfClock = Hours * ETimespan::TicksPerHour + Minutes * ETimespan::TicksPerMinute +
-		Seconds * ETimespan::TicksPerSecond + Milliseconds * ETimespan::TicksPerMillisecond;
-	return FTimespan(SaturatedTicks::Add(OfDays, OfClock));
+	const int64 OfHours = SaturatedTicks::Multiply(Hours, ETimespan::TicksPerHour);
+	// All of these fit together.
+	const int64 OfRest =
+		Minutes * ETimespan::TicksPerMinute + Seconds * ETimespan::TicksPerSecond + Milliseconds * ETimespan::TicksPerMillisecond;
+	return FTimespan(SaturatedTicks::Add(SaturatedTicks::Add(OfDays, OfHours), OfRest));
 }
 
 void UKismetMathLibrary::BreakTimespan(

@@ -1,5 +1,6 @@
 #include "Kismet/KismetMathLibrary.h"
 #include "KismetMath.h"
+#include "Math/NumericNarrowing.h"
 #include "RotationAxes.h"
 
 FVector UKismetMathLibrary::Vector_Zero()
@@ -341,5 +342,5 @@ FVector2D UKismetMathLibrary::Conv_VectorToVector2D(FVector InVector)
 
 FLinearColor UKismetMathLibrary::Conv_VectorToLinearColor(FVector InVec)
 {
-	return FLinearColor(float(InVec.X), float(InVec.Y), float(InVec.Z));
+	return FLinearColor(NarrowNumber<float>(InVec.X), NarrowNumber<float>(InVec.Y), NarrowNumber<float>(InVec.Z));
 }

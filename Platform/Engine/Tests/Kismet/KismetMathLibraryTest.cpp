@@ -123,6 +123,8 @@ TEST(KismetMathLibrary, TimespansStayWithinTheirRange)
 	EXPECT_EQ(FLibrary::MakeTimespan(1, 2, 3, 4, 5), FTimespan(1, 2, 3, 4, 5000000));
 	EXPECT_EQ(FLibrary::MakeTimespan(MAX_int32, MAX_int32, 0, 0, 0), FTimespan::MaxValue());
 	EXPECT_EQ(FLibrary::MakeTimespan(MIN_int32, 0, 0, 0, 0), FTimespan::MinValue());
+	EXPECT_EQ(FLibrary::MakeTimespan(0, MIN_int32, 0, 0, 0), FTimespan::MinValue());
+	EXPECT_EQ(FLibrary::MakeTimespan(0, 0, MAX_int32, 0, 0), FTimespan::FromMinutes(MAX_int32));
 	EXPECT_EQ(FLibrary::Add_TimespanTimespan(FTimespan::MaxValue(), FTimespan(1)), FTimespan::MaxValue());
 	EXPECT_EQ(FLibrary::Subtract_TimespanTimespan(FTimespan::MinValue(), FTimespan(1)), FTimespan::MinValue());
 	EXPECT_EQ(FLibrary::GetDuration(FTimespan::MinValue()), FTimespan::MaxValue());
