@@ -188,27 +188,41 @@ static FPythonRef Complete(UScriptStruct* Struct, const FPythonRef Values, const
 	return Rest ? FPythonRef::Steal(PySequence_Concat(Values.Get(), Rest.Get())) : FPythonRef();
 }
 
-bool PythonStructFields::SetInOrder(UScriptStruct* Struct, PyObject* Sequence, void* Memory)
+/** The items of a sequence, as many as its length says: what a script calls a sequence may have no end. */
+static FPythonRef ReadSequence(UScriptStruct* Struct, PyObject* Sequence, int32 MaxCount)
 {
-	const FPythonRef Given = FPythonRef::Steal(PySequence_Tuple(Sequence));
-	if (!Given)
-	{
-		return false;
-	}
-	if (const FPythonFunction* const Make = FindMake(Struct))
-	{
-		const FPythonRef Values = Complete(Struct, Given, *Make, Memory);
-		return Values && TakeOver(Struct, CallWith(*Make, Values.Get(), nullptr), Memory);
-	}
-	const int32 NumFields = FPythonPropertyTable::Of(Struct)->GetAll().Num();
-	if (PyTuple_GET_SIZE(Given.Get()) > NumFields)
+	const Py_ssize_t Count = PySequence_Size(Sequence);
+	if (Count > MaxCount)
 	{
 		PythonErrors::Raise(PyExc_TypeError,
-			FString::Printf(TEXT("%s has %d fields (%d given)"), *PythonNaming::NameOf(Struct), NumFields,
-				static_cast<int32>(PyTuple_GET_SIZE(Given.Get()))));
-		return false;
+			FString::Printf(
+				TEXT("%s has %d fields (%d given)"), *PythonNaming::NameOf(Struct), MaxCount, static_cast<int32>(Count)));
+		return FPythonRef();
 	}
-	return SetFieldsInOrder(Struct, Given.Get(), Memory);
+	const FPythonRef Items = Count >= 0 ? FPythonRef::Steal(PyTuple_New(Count)) : FPythonRef();
+	for (Py_ssize_t Index = 0; Items && Index < Count; ++Index)
+	{
+		PyObject* const Item = PySequence_GetItem(Sequence, Index);
+		if (!Item)
+		{
+			return FPythonRef();
+		}
+		PyTuple_SET_ITEM(Items.Get(), Index, Item);
+	}
+	return Items;
+}
+
+bool PythonStructFields::SetInOrder(UScriptStruct* Struct, PyObject* Sequence, void* Memory)
+{
+	const FPythonFunction* const Make = FindMake(Struct);
+	const int32 MaxCount = Make ? Make->GetInputs().Num() : FPythonPropertyTable::Of(Struct)->GetAll().Num();
+	const FPythonRef Given = ReadSequence(Struct, Sequence, MaxCount);
+	if (!Given || !Make)
+	{
+		return Given && SetFieldsInOrder(Struct, Given.Get(), Memory);
+	}
+	const FPythonRef Values = Complete(Struct, Given, *Make, Memory);
+	return Values && TakeOver(Struct, CallWith(*Make, Values.Get(), nullptr), Memory);
 }
 
 static bool CheckKeywords(const FPythonFunction& Make, PyObject* Keywords)

@@ -38,6 +38,14 @@ TEST(PythonStruct, MappingsOfScriptsMayGiveAnything)
 		TEXT("TypeError: expected Name or str as name of a property, got int"));
 }
 
+TEST(PythonStruct, SequencesOfScriptsMayHaveNoEnd)
+{
+	EXPECT_TRUE(RunPython(TEXT("class Endless:\n    def __len__(self): return 2\n    def __getitem__(self, index): return 5")));
+	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestPlace.cast(Endless()).to_tuple()")), TEXT("(5.0, 5, '')"));
+	EXPECT_EQ(Evaluate(TEXT("unreal.Rotator.cast(Endless()).to_tuple()")), TEXT("(5.0, 5.0, 0.0)"));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.Rotator.cast([1, 2, 3, 4])")), TEXT("TypeError: Rotator has 3 fields (4 given)"));
+}
+
 TEST(PythonStruct, ValuesCompareByContent)
 {
 	EXPECT_EQ(Evaluate(TEXT("unreal.Vector2D(1, 2) == unreal.Vector2D(1, 2)")), TEXT("True"));
