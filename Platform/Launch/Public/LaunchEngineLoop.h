@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 
+class FGarbageSchedule;
 class FOutputDeviceFile;
 class FOutputDeviceStdOutput;
 class FTerminationSignals;
@@ -37,7 +38,10 @@ public:
 	/** False for a start without a display, a script and a command to quit: nobody could use the editor, and nobody would end it. */
 	bool HasUser() const;
 
-	/** One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole. */
+	/**
+	 * One frame. May be called from within a frame by whoever drives the editor; the inner frame is then whole, but for the
+	 * collection of garbage: what is on the stack of the outer one may hold pointers.
+	 */
 	void Tick();
 
 	/** The longest sleep between two looks at the world, in seconds: lines of other threads wait no longer than this. */
@@ -69,6 +73,8 @@ private:
 	TUniquePtr<FTerminationSignals> Signals;
 	TSharedPtr<SWindow> MainWindow;
 	uint8 ScriptStatus = 0;
+	TUniquePtr<FGarbageSchedule> GarbageSchedule;
+	bool bInFrame = false;
 	bool bCommandsDone = false;
 };
 

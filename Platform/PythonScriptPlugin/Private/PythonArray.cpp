@@ -17,7 +17,7 @@ static FScriptArrayHelper HelperOf(PyObject* Self)
 /** Adds one value at the end. */
 static bool AppendTo(const FPythonContainerType& Type, FScriptArrayHelper& Helper, PyObject* Value)
 {
-	// The conversion may run a script, which may change the very array.
+	// The value may be a script's and change the array while it is looked at.
 	const FScopedPropertyValue Converted(Type.ElementProperty);
 	if (!Type.Element->FromPython(Value, Converted.Get()))
 	{

@@ -2,6 +2,7 @@
 #include "PythonContainers.h"
 #include "PythonErrors.h"
 #include "PythonInterpreter.h"
+#include "PythonMappings.h"
 #include "PythonTypeSpec.h"
 #include "UObject/UnrealType.h"
 
@@ -35,7 +36,7 @@ bool PythonContainers::FillMap(const FPythonContainerType& Type, PyObject* Value
 		Type.Property->CopyCompleteValue(Memory, FPythonContainer::From(Value).Memory);
 		return true;
 	}
-	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? FPythonRef::Steal(PyMapping_Items(Value)) : FPythonRef();
+	const FPythonRef Items = PyObject_HasAttrString(Value, "keys") ? PythonMappings::ItemsOf(Value) : FPythonRef();
 	if (!Items)
 	{
 		PyErr_Clear();

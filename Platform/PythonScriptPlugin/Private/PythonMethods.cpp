@@ -22,19 +22,31 @@ struct FPythonMethod
 	static const FPythonMethod& From(PyObject* Self) { return PythonTypes::StateOf<FPythonMethod>(Self); }
 };
 
+static PyObject* RaiseForeign(const FPythonMethod& Method)
+{
+	PythonErrors::Raise(PyExc_TypeError,
+		FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"), *Method.Function->GetName(),
+			UTF8_TO_TCHAR(Method.Owner->tp_name)));
+	return nullptr;
+}
+
 static PyObject* CallMember(PyObject* Self, PyObject* const* Arguments, size_t CountAndFlags, PyObject* Keywords)
 {
 	const FPythonMethod& Method = FPythonMethod::From(Self);
 	const Py_ssize_t Count = PyVectorcall_NARGS(CountAndFlags);
 	if (Count == 0 || !PyObject_TypeCheck(Arguments[0], Method.Owner))
 	{
-		PythonErrors::Raise(PyExc_TypeError,
-			FString::Printf(TEXT("%s() needs an object of type '%s' to be called on"), *Method.Function->GetName(),
-				UTF8_TO_TCHAR(Method.Owner->tp_name)));
-		return nullptr;
+		return RaiseForeign(Method);
 	}
 	UObject* const Target = FPythonInterpreter::CheckMainThread() ? PythonObjects::FromWrapper(Arguments[0]) : nullptr;
-	return Target ? Method.Function->Call(Target, Arguments + 1, Count - 1, Keywords) : nullptr;
+	if (!Target)
+	{
+		return nullptr;
+	}
+	// A type that a script derived from several of the engine's is each of them to Python; its object is of one class.
+	return Target->IsA(Method.Function->GetFunction()->GetOwnerClass())
+		? Method.Function->Call(Target, Arguments + 1, Count - 1, Keywords)
+		: RaiseForeign(Method);
 }
 
 static PyObject* CallStatic(PyObject* Self, PyObject* const* Arguments, size_t CountAndFlags, PyObject* Keywords)
