@@ -118,6 +118,5 @@ TEST_F(PythonProperty, AMappingWhoseItemsAreNoPairsIsRefused)
 	EXPECT_TRUE(RunPython(TEXT("class Odd(dict):\n    def items(self):\n        return [1, 2]\n")));
 	const FString Expected = TEXT("TypeError: items() of a 'Odd' gives something other than pairs");
 	EXPECT_EQ(ErrorOf(TEXT("subject.set_editor_properties(Odd())")), Expected);
-	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestPlace.cast(Odd())")), Expected);
 	EXPECT_EQ(ErrorOf(TEXT("unreal.Text('{a}').format(Odd())")), Expected);
 }
