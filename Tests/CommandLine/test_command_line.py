@@ -37,6 +37,20 @@ def test_a_script_that_exits_gives_its_status(shell, code, status, line):
     assert "LogLaunch: The editor has ended." in shell.log_text()
 
 
+def test_a_thread_of_a_script_has_its_turn_while_nothing_happens(shell):
+    script = shell.script(
+        "import os, signal, threading, time, unreal\n"
+        "unreal.EditorPythonScripting.set_keep_python_script_alive(True)\n"
+        "def end():\n"
+        "    for _ in range(20):\n"
+        "        time.sleep(0.01)\n"
+        "    os.kill(os.getpid(), signal.SIGTERM)\n"
+        "threading.Thread(target=end, daemon=True).start()\n"
+    )
+    run = shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}")
+    assert run.returncode == 128 + signal.SIGTERM
+
+
 def test_an_exit_in_a_callback_or_a_literal_command_ends_nothing(shell):
     script = shell.script(
         "import os, signal, sys, unreal\n"

@@ -26,8 +26,8 @@ from tools import AKAS, describe, write_tool
 
 CALLS_PER_FRAME = 200
 
-#: These go on for as long as they are told to, which is forever for some values, or end the editor, which is what they are for.
-LEFT_OUT = {"EditorDriver.wait", "EditorDriver.hold_key", "SystemLibrary.quit_editor"}
+#: These end the editor, which is what they are for.
+LEFT_OUT = {"SystemLibrary.quit_editor"}
 
 #: Types for the elements of containers.
 ELEMENTS = [int, float, bool, str, unreal.Name, unreal.Text, unreal.Vector, unreal.Object, unreal.PythonLogOutputType]
@@ -103,7 +103,7 @@ def instance_makers(kind):
 def can(make):
     try:
         return make() is not None
-    except (AttributeError, TypeError, ValueError):
+    except (AttributeError, TypeError, ValueError, RuntimeError):
         return False
 
 
@@ -279,13 +279,20 @@ class Runner:
         unreal.VelmoraData.launch_velmora_tool(self.tool)
         try:
             for _ in range(CALLS_PER_FRAME):
-                entry = next(self.calls, None)
+                entry = self.next_call()
                 if entry is None:
                     self.end()
                     return
                 self.make(*entry)
         finally:
             self.calling = False
+
+    def next_call(self):
+        try:
+            return next(self.calls, None)
+        except Exception as error:  # noqa: BLE001: a plan that breaks off is no end
+            self.findings.append(f"the plan: {error!r}")
+            return None
 
     def make(self, call, arguments, keywords):
         names = ", ".join([name for name, _ in arguments] + [f"{key!r}={name}" for key, (name, _) in keywords.items()])

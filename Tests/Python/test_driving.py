@@ -68,8 +68,17 @@ def test_label_that_another_begins_with_names_its_own_tab(tool):
 
 
 def test_time_does_not_go_back():
-    with raises("There is no waiting for -1 seconds"):
+    with raises("There is no waiting for -1 seconds, only for 0 to 3600"):
         Driver.wait(-1)
+
+
+@pytest.mark.parametrize("seconds", [float("inf"), float("nan"), 1e30, 3601])
+def test_time_without_end_is_refused(tool, seconds):
+    tool(button("B"))
+    with pytest.raises(RuntimeError, match="There is no waiting for .* seconds, only for 0 to 3600"):
+        Driver.wait(seconds)
+    with pytest.raises(RuntimeError, match="There is no waiting for .* seconds, only for 0 to 3600"):
+        Driver.hold_key("Enter", seconds)
 
 
 @pytest.mark.parametrize("path", ["../out", "Saved/../../out.png", "../" * 40 + "tmp/out", "../Trial2/out.png"])

@@ -36,6 +36,19 @@ void Raise(const FString& Message)
 	FFrame::KismetExecutionMessage(*Message, ELogVerbosity::Error);
 }
 
+/** A test that asks for more than this, in seconds, would seem to hang. */
+constexpr float LongestTime = 3600.0f;
+
+bool IsTimeToPass(float Seconds)
+{
+	if (Seconds >= 0.0f && Seconds <= LongestTime)
+	{
+		return true;
+	}
+	Raise(FString::Printf(TEXT("There is no waiting for %g seconds, only for 0 to %g"), Seconds, LongestTime));
+	return false;
+}
+
 /** Frames cannot pass while an event is on its way: the event would be overtaken by later ones. */
 bool MayRunFrames()
 {
@@ -220,7 +233,7 @@ void UEditorDriver::PressKey(const FString& Chord)
 void UEditorDriver::HoldKey(const FString& Chord, float Seconds)
 {
 	InputPlayer::FChord Parsed;
-	if (!ParseChord(Chord, Parsed))
+	if (!IsTimeToPass(Seconds) || !ParseChord(Chord, Parsed))
 	{
 		return;
 	}
@@ -255,12 +268,7 @@ int32 UEditorDriver::Count(const FString& Tab, const FString& Type, const FStrin
 
 void UEditorDriver::Wait(float Seconds)
 {
-	if (Seconds < 0.0f)
-	{
-		Raise(FString::Printf(TEXT("There is no waiting for %g seconds"), Seconds));
-		return;
-	}
-	if (MayRunFrames())
+	if (IsTimeToPass(Seconds) && MayRunFrames())
 	{
 		InputPlayer::Run(Seconds);
 	}

@@ -119,7 +119,7 @@ public:
 	 * Lets the editor run. Off-screen its clock goes a sixtieth of a second a frame, however fast the frames are, so that a
 	 * minute passes in milliseconds. Within an event of a widget it raises.
 	 *
-	 * @param Seconds  Time of the editor; 0 lets one frame pass, less raises.
+	 * @param Seconds  Time of the editor, up to 3600; 0 lets one frame pass. Anything else raises.
 	 */
 	UFUNCTION(BlueprintCallable, Category = "Editor Driver")
 	static void Wait(float Seconds = 0.0f);

@@ -272,8 +272,15 @@ void FEngineLoop::RunCommandLineCommands()
 void FEngineLoop::WaitForWork(double Longest)
 {
 	FSlateApplication& Slate = FSlateApplication::Get();
-	if (FApp::UseFixedTimeStep() || IsEngineExitRequested())
+	if (IsEngineExitRequested())
 	{
+		return;
+	}
+	if (FApp::UseFixedTimeStep())
+	{
+		// There is no sleep, but whoever waits for one, a thread of a script for instance, has its turn.
+		FCoreDelegates::OnMainLoopSleep.Broadcast();
+		FCoreDelegates::OnMainLoopWake.Broadcast();
 		return;
 	}
 	const double ToNextCall = FMath::Min(Slate.GetSecondsToNextCall(), FTSTicker::GetCoreTicker().GetSecondsToNextCall());
