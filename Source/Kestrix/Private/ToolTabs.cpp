@@ -90,7 +90,7 @@ void OpenToolInNewWindow(FName TabId, const FVector2D& Size, const FVector2D& Po
 bool OpenTool(FName TabId, const FVector2D& Size, const FVector2D& Position, const FString& ToolsPath)
 {
 	const bool bInWindow = Size.X > 0.0;
-	if (ToolsBeingSpawned.Contains(TabId))
+	if (ToolsBeingSpawned.ContainsByPredicate([TabId](FName Spawned) { return IsSameTool(Spawned, TabId); }))
 	{
 		UE_LOG(PythonKX, Warning, TEXT("Tool %s is opening already; its own opening asked for it again."), *ToolsPath);
 		return !bInWindow;

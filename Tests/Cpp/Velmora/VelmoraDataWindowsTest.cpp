@@ -283,12 +283,19 @@ TEST(LaunchVelmoraTool, ToolThatItsOwnStartAsksForAgainOpensOnceWithAWarning)
 		const FString Path = Plugin.WriteTool(
 			TEXT("A.json"), FString::Printf(TEXT("{ %s \"InitPyCmd\": \"again()\", \"Root\": { \"SBox\": {} } }"), Size));
 		bool bAnswer = false;
-		Plugin.Python.SetOnCommand([&bAnswer] { bAnswer = UVelmoraData::LaunchVelmoraTool(TEXT("A.json")); });
+		Plugin.Python.SetOnCommand(
+			[&]
+			{
+				bAnswer = UVelmoraData::LaunchVelmoraTool(TEXT("A.json"));
+				UVelmoraData::LaunchVelmoraTool(TEXT("/") + Path);
+			});
 		const FLogCapture Lines(TEXT("PythonKX"));
 
 		EXPECT_EQ(UVelmoraData::LaunchVelmoraTool(TEXT("A.json")), bAnswer);
 
-		EXPECT_EQ(Lines.Warnings(), FLines({TEXT("Tool A.json is opening already; its own opening asked for it again.")}));
+		EXPECT_EQ(Lines.Warnings(),
+			FLines({TEXT("Tool A.json is opening already; its own opening asked for it again."),
+				FString::Printf(TEXT("Tool /%s is opening already; its own opening asked for it again."), *Path)}));
 		EXPECT_EQ(OpenToolTabs.Num(), 1);
 		EXPECT_EQ(Plugin.Python.Take(), FLines({TEXT("again()")}));
 	}
@@ -632,18 +639,40 @@ TEST(SnapshotVelmoraWindow, WindowIsItselfAgainAfterwards)
 	EXPECT_EQ(Tool.Plugin.Python.Take().Last(), FString(TEXT("go()")));
 }
 
-TEST(SnapshotVelmoraWindow, ScrollBoxesStandWhereTheyStoodAfterwards)
+TEST(SnapshotVelmoraWindow, ScrollBoxesAndLongFieldsStandWhereTheyStoodAtOnce)
 {
+	FString Lines;
+	for (int32 Line = 0; Line < 300; ++Line)
+	{
+		Lines += TEXT("line\\n");
+	}
 	FRunningPlugin Plugin;
 	UVelmoraData& Data = Plugin.Launch(TEXT("A.json"),
-		ToolWithRoot("{ \"SScrollBox\": { \"Aka\": \"Box\", \"Slots\": [ { \"SBox\": { \"HeightOverride\": 900 } } ] } }"));
+		ToolWithRoot(TCHAR_TO_UTF8(
+			*FString::Printf(TEXT("{ \"SHorizontalBox\": { \"Slots\": ["
+								  "{ \"SScrollBox\": { \"Aka\": \"Box\", \"Slots\": [ { \"SBox\": { "
+								  "\"HeightOverride\": 900 } } ] } },"
+								  "{ \"SMultiLineEditableTextBox\": { \"Aka\": \"Field\", \"Text\": \"%s\" } } ] } }"),
+				*Lines))));
 	Data.SetScrollBoxOffset("Box", 200.0f);
+	Data.ScrollTo("Field", 200, 0);
 	Plugin.Window.Frame();
+	TArray<FColor> Before;
+	FIntVector Size;
+	const TSharedRef<SWidget> Field = Data.GetNamedWidget("Field").ToSharedRef();
+	FSlateApplication::Get().TakeScreenshot(Field, Before, Size);
 
-	UVelmoraData::SnapshotVelmoraWindow(TEXT("A.json"), FVector2D(800.0, 2000.0));
+	UVelmoraData::SnapshotVelmoraWindow(TEXT("A.json"), FVector2D(800.0, 9000.0));
+
+	TMap<FString, float> Offsets = Data.GetScrollBoxOffsets("Box");
+	EXPECT_EQ(Offsets.FindRef(TEXT("Offset")), 200.0f);
+	EXPECT_LT(Offsets.FindRef(TEXT("ViewFraction")), 1.0f);
+	Data.SetScrollBoxOffset("Box", 0.0f);
 	Plugin.Window.Frame();
-
-	EXPECT_EQ(Data.GetScrollBoxOffsets("Box").FindRef(TEXT("Offset")), 200.0f);
+	EXPECT_EQ(Data.GetScrollBoxOffsets("Box").FindRef(TEXT("Offset")), 0.0f);
+	TArray<FColor> After;
+	FSlateApplication::Get().TakeScreenshot(Field, After, Size);
+	EXPECT_TRUE(After == Before);
 }
 
 TEST(SnapshotVelmoraWindow, ToolMayTakeItsPictureFromTheClickOfItsButton)

@@ -110,6 +110,8 @@ FString UVelmoraData::SnapshotVelmoraWindow(const FString& ToolsPath, FVector2D 
 	{
 		return FString();
 	}
+	// The system reads no further than a null character.
+	ImageFilePath = FString(*ImageFilePath);
 	if (ImageFilePath.IsEmpty())
 	{
 		ImageFilePath = MakeSnapshotPath(ToolsPath);

@@ -1,5 +1,6 @@
 #include "Widgets/Layout/SScrollPanel.h"
 
+#include "Layout/ForeignWindow.h"
 #include "Layout/LayoutUtils.h"
 #include "Widgets/Layout/SScrollBar.h"
 
@@ -19,7 +20,7 @@ void SScrollPanel::SetOrientation(EOrientation InOrientation)
 void SScrollPanel::SetOffset(float NewOffset)
 {
 	const float AtLeastZero = FMath::Max(NewOffset, 0.0f);
-	if (AtLeastZero != GetOffset())
+	if (AtLeastZero != WantedOffset)
 	{
 		WantedOffset = AtLeastZero;
 		bOffsetIsNew = true;
@@ -31,16 +32,6 @@ void SScrollPanel::ScrollToEndAtNextLayout()
 {
 	WantedOffset = TNumericLimits<float>::Max();
 	Invalidate(EInvalidateWidgetReason::Layout);
-}
-
-bool SScrollPanel::IsWithinForeignWindow() const
-{
-	int32 NumWindows = 0;
-	for (SWidget* Step = GetParentPointer(); Step && NumWindows < 2; Step = Step->GetParentPointer())
-	{
-		NumWindows += Step->AsWindow() != nullptr;
-	}
-	return NumWindows > 1;
 }
 
 FVector2D SScrollPanel::RoomOf(const SScrollBox::FSlot& Slot) const
@@ -66,23 +57,25 @@ FVector2D SScrollPanel::ComputeDesiredSize(float LayoutScaleMultiplier) const
 
 void SScrollPanel::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
 {
-	ViewLength = Along(AllottedGeometry.GetLocalSize());
-	ContentLength = Along(GetDesiredSize());
-	Offset = FMath::Clamp(WantedOffset, 0.0f, GetOffsetOfEnd());
-	if (!IsWithinForeignWindow())
+	const float View = Along(AllottedGeometry.GetLocalSize());
+	const float Content = Along(GetDesiredSize());
+	const float Shown = FMath::Clamp(WantedOffset, 0.0f, FMath::Max(Content - View, 0.0f));
+	if (!IsWithinForeignWindow(*this))
 	{
-		WantedOffset = Offset;
+		ViewLength = View;
+		ContentLength = Content;
+		Offset = WantedOffset = Shown;
+		bOffsetIsNew = false;
 	}
-	bOffsetIsNew = false;
 	if (const TSharedPtr<SScrollBar> Bar = ScrollBar.Pin())
 	{
-		const bool bScrolls = ContentLength > ViewLength && ContentLength > 0.0f;
-		Bar->SetState(bScrolls ? Offset / ContentLength : 0.0f, bScrolls ? ViewLength / ContentLength : 1.0f);
+		const bool bScrolls = Content > View && Content > 0.0f;
+		Bar->SetState(bScrolls ? Shown / Content : 0.0f, bScrolls ? View / Content : 1.0f);
 	}
 
 	// Whole pixels, so that text stays sharp while it moves.
 	const double Scale = AllottedGeometry.Scale;
-	double Position = -FMath::RoundToDouble(Offset * Scale) / Scale;
+	double Position = -FMath::RoundToDouble(Shown * Scale) / Scale;
 	const double Breadth = Across(AllottedGeometry.GetLocalSize());
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
@@ -93,7 +86,7 @@ void SScrollPanel::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrange
 			continue;
 		}
 		const double Length = Along(RoomOf(Slot));
-		const bool bInView = Position + Length >= 0.0 && Position <= ViewLength;
+		const bool bInView = Position + Length >= 0.0 && Position <= View;
 		if (bInView)
 		{
 			const FVector2D Room = MakeVector(Length, Breadth);

@@ -50,11 +50,8 @@ private:
 	EOrientation Orientation = Orient_Vertical;
 	TWeakPtr<SScrollBar> ScrollBar;
 
-	/** Whether the window of this panel is shown within another one, as while a picture is taken in another size. */
-	bool IsWithinForeignWindow() const;
-
-	// Settled by the arrangement, which alone knows how much room there is. What was asked for is kept apart from what was allowed, for
-	// the room that there is in a foreign window says nothing about the panel's own.
+	// Settled by the arrangement, which alone knows how much room there is. What was asked for is kept apart from what was allowed. In a
+	// foreign window all stay as they were.
 	mutable float WantedOffset = 0.0f;
 	mutable float Offset = 0.0f;
 	mutable bool bOffsetIsNew = false;

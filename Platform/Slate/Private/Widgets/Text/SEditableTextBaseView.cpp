@@ -1,5 +1,6 @@
 #include "Widgets/Text/SEditableTextBase.h"
 
+#include "Layout/ForeignWindow.h"
 #include "Application/ActiveTimerHandle.h"
 #include "Framework/Text/FontTextMeasure.h"
 #include "Framework/Text/TextEditor.h"
@@ -188,8 +189,17 @@ void SEditableTextBase::UpdateView(const FGeometry& Geometry)
 	ViewSize = FVector2D(FMath::Max(Room.X, 0.0), FMath::Max(Room.Y, 0.0));
 
 	const FTextRows& Rows = UpdateRows(Geometry.Scale, Geometry.GetLocalSize().X);
-	FVector2D NewOffset = ViewOffset;
-	if (CaretToShow.IsValid())
+	const bool bForeign = IsWithinForeignWindow(*this);
+	if (bForeign && !OwnViewOffset.IsSet())
+	{
+		OwnViewOffset = ViewOffset;
+	}
+	FVector2D NewOffset = bForeign ? ViewOffset : OwnViewOffset.Get(ViewOffset);
+	if (!bForeign)
+	{
+		OwnViewOffset.Reset();
+	}
+	if (!bForeign && CaretToShow.IsValid())
 	{
 		const FVector2D Begin =
 			Rows.GetCaretPosition(FTextCaret(Editor->GetDocument().Clamp(CaretToShow->Location), CaretToShow->bAtRowEnd));

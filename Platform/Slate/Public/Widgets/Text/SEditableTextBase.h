@@ -180,6 +180,9 @@ private:
 	FString OriginalText;
 
 	FVector2D ViewOffset = FVector2D::ZeroVector;
+
+	/** What it was before the field was shown in a foreign window, for as long as it is. */
+	TOptional<FVector2D> OwnViewOffset;
 	FVector2D ViewSize = FVector2D::ZeroVector;
 
 	/** What the next layout brings into view. */
