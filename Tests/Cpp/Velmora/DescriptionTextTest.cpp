@@ -202,6 +202,27 @@ TEST(DescriptionText, FileThatIncludesItselfByAnUncleanAbsolutePathIsRefusedToo)
 		FLines({FString::Printf(TEXT("JsonFile %s has already import in parents, recursively import"), *Unclean)}));
 }
 
+TEST(DescriptionText, FileThatIncludesItselfByWayOfAboveTheRootIsRefusedToo)
+{
+	const FTempProject Folder;
+	FString Up;
+	for (int32 Level = 0; Level < 40; ++Level)
+	{
+		Up += TEXT("../");
+	}
+	const FString Full = Folder.Path(TEXT("G.json"));
+	for (const FString& Spelling : {Up + Full.RightChop(1), TEXT("/..") + Full, TEXT("/../..//.") + Full})
+	{
+		const FString Path = Folder.Write(TEXT("G.json"), TEXT("{}\n\"ExternalJson\": \"") + Spelling + TEXT("\"\n"));
+		const FLogCapture Log(TEXT("PythonKX"));
+
+		EXPECT_EQ(TextOf(Path), FString(TEXT("{}\n")));
+
+		EXPECT_EQ(Log.Warnings(),
+			FLines({FString::Printf(TEXT("JsonFile %s has already import in parents, recursively import"), *Spelling)}));
+	}
+}
+
 TEST(DescriptionText, CycleThatDoesNotLeadBackToTheFirstFileStops)
 {
 	const FTempProject Folder;

@@ -41,13 +41,30 @@ constexpr int32 MaxIncludedFiles = 100000;
 constexpr int32 MaxInclusionDepth = 200;
 constexpr int64 MaxDescriptionBytes = 1LL << 30;
 
-/** The one spelling of a path: two files are the same if these are equal without regard to case. */
+/**
+ * The one spelling of a path: two files are the same if these are equal without regard to case. Above the root there is nothing, as
+ * for the system.
+ */
 FString FoldPath(FString Path)
 {
 	FPaths::NormalizeFilename(Path);
-	FPaths::RemoveDuplicateSlashes(Path);
-	FPaths::CollapseRelativeDirectories(Path);
-	return Path;
+	const bool bRelative = FPaths::IsRelative(Path);
+	TArray<FString> Parts;
+	Path.ParseIntoArray(Parts, TEXT("/"));
+	TArray<FString> Kept;
+	for (const FString& Part : Parts)
+	{
+		const bool bUp = Part == TEXT("..");
+		if (bUp && Kept.Num() > 0 && Kept.Last() != TEXT(".."))
+		{
+			Kept.Pop();
+		}
+		else if ((!bUp || bRelative) && Part != TEXT("."))
+		{
+			Kept.Add(Part);
+		}
+	}
+	return (bRelative ? TEXT("") : TEXT("/")) + FString::Join(Kept, TEXT("/"));
 }
 
 /** Appends files to a text, with the files around the current one at hand. */
