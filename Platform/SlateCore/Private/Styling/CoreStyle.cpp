@@ -14,6 +14,10 @@ namespace
 {
 constexpr float CornerRadius = 4.0f;
 
+// Wide enough that tools may take 16 from it on either side.
+const FMargin ButtonPadding(22.0f, 4.0f);
+const FMargin PressedButtonPadding(22.0f, 5.0f, 22.0f, 3.0f);
+
 FSlateRoundedBoxBrush RoundedBox(const FColor& Fill, const FColor& OutlineColor, float OutlineWidth = 1.0f)
 {
 	return FSlateRoundedBoxBrush(
@@ -94,20 +98,17 @@ private:
 
 	void SetButtons()
 	{
-		// Wide enough that tools may take 16 from it on either side.
-		const FMargin Padding(22.0f, 4.0f);
-		const FButtonStyle Button =
-			FButtonStyle()
-				.SetNormal(RoundedBox(Palette::Button, Palette::Outline))
-				.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::Outline))
-				.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::Accent))
-				.SetDisabled(RoundedBox(Palette::ButtonDisabled, Palette::Outline))
-				.SetNormalForeground(Text(Palette::Foreground))
-				.SetHoveredForeground(Text(Palette::ForegroundBright))
-				.SetPressedForeground(Text(Palette::ForegroundBright))
-				.SetDisabledForeground(Text(Palette::ForegroundDisabled))
-				.SetNormalPadding(Padding)
-				.SetPressedPadding(FMargin(Padding.Left, Padding.Top + 1.0f, Padding.Right, Padding.Bottom - 1.0f));
+		const FButtonStyle Button = FButtonStyle()
+										.SetNormal(RoundedBox(Palette::Button, Palette::Outline))
+										.SetHovered(RoundedBox(Palette::ButtonHovered, Palette::Outline))
+										.SetPressed(RoundedBox(Palette::ButtonPressed, Palette::Accent))
+										.SetDisabled(RoundedBox(Palette::ButtonDisabled, Palette::Outline))
+										.SetNormalForeground(Text(Palette::Foreground))
+										.SetHoveredForeground(Text(Palette::ForegroundBright))
+										.SetPressedForeground(Text(Palette::ForegroundBright))
+										.SetDisabledForeground(Text(Palette::ForegroundDisabled))
+										.SetNormalPadding(ButtonPadding)
+										.SetPressedPadding(PressedButtonPadding);
 		Set("Button", Button);
 		Set("PrimaryButton",
 			FButtonStyle(Button)
@@ -136,6 +137,8 @@ private:
 				.SetHovered(FSlateNoResource())
 				.SetPressed(FSlateNoResource())
 				.SetDisabled(FSlateNoResource())
+				.SetNormalPadding(ButtonPadding)
+				.SetPressedPadding(PressedButtonPadding)
 				.SetNormalForeground(Text(Palette::Foreground))
 				.SetHoveredForeground(Text(Palette::ForegroundBright))
 				.SetPressedForeground(Text(Palette::Accent))

@@ -320,6 +320,11 @@ FTextRow FTextRows::GetRow(int32 RowIndex) const
 	Row.Text = GetShownText(LineIndex, Row.Range);
 	Row.Width = Measure->GetWidth(Row.Text, Row.bWrapped ? GetLenWithoutBlanks(Row.Text) : Row.Text.Len());
 	Row.Left = GetRowLeft(Row.Width, Document.GetLine(LineIndex));
+	if (Row.bWrapped && TextDirection::IsRightToLeft(Document.GetLine(LineIndex)))
+	{
+		// The blanks at the end, for which there need be no room, lie left of the letters.
+		Row.Left -= Measure->GetWidth(Row.Text, Row.Text.Len()) - Row.Width;
+	}
 	Row.Top = (FirstRows[LineIndex] + RowInLine) * GetRowHeight();
 	return Row;
 }

@@ -142,6 +142,20 @@ TEST_F(FTextRowsTest, ParagraphFromRightToLeftBeginsAtTheRight)
 	EXPECT_EQ(Rows.GetRow(1).Left, 0.0f);
 }
 
+TEST_F(FTextRowsTest, LettersOfWrappedRowsFromRightToLeftEndAtTheViewsEdge)
+{
+	SetText(TEXT("\u05d0\u05d1\u05d2 \u05d3\u05d4\u05d5"), 45.0f);
+	Rows.SetViewWidth(100.0f);
+	const FTextRow First = Rows.GetRow(0);
+	const FTextRow Last = Rows.GetRow(1);
+	ASSERT_TRUE(First.bWrapped);
+
+	// The blank at the break is drawn first, beyond the row's own width.
+	EXPECT_EQ(First.Text.Len(), 4);
+	EXPECT_EQ(First.Left, 100.0f - First.Width * 4.0f / 3.0f);
+	EXPECT_EQ(Last.Left, 100.0f - Last.Width);
+}
+
 TEST_F(FTextRowsTest, ThePercentageSpreadsRows)
 {
 	SetText(TEXT("a\nb"));
