@@ -98,3 +98,10 @@ def test_picture_gets_the_ending_of_its_format(tool, tmp_path):
 
     assert taken.read_text() == "precious"
     assert pathlib.Path(f"{taken}.png").read_bytes().startswith(b"\x89PNG")
+
+
+@pytest.mark.parametrize("path", ["", "/", ".", "..", "Saved/", "Saved/..", "/tmp/victim.txt\0", "Saved/shot\0x"])
+def test_picture_without_a_name_of_its_own_is_refused(tool, path):
+    t = tool(label("a"))
+    with pytest.raises((RuntimeError, ValueError)):
+        Driver.screenshot(t.tab, path)

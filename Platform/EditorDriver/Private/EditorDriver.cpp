@@ -17,6 +17,14 @@ IMPLEMENT_MODULE(FDefaultModuleImpl, EditorDriver)
 
 namespace
 {
+/** Neither a folder, nor a text that the system reads otherwise: to that a null character ends a name. */
+bool NamesAFile(const FString& Path)
+{
+	const FString Name = FPaths::GetCleanFilename(Path);
+	int32 Null = INDEX_NONE;
+	return !Name.IsEmpty() && Name != TEXT(".") && Name != TEXT("..") && !Path.FindChar(TEXT('\0'), Null);
+}
+
 /** A name without its ending would write over whatever file bears it. */
 FString MakePicturePath(const FString& Path)
 {
@@ -277,6 +285,11 @@ void UEditorDriver::Wait(float Seconds)
 FString UEditorDriver::Screenshot(const FString& Tab, const FString& Path)
 {
 	const FString FullPath = MakePicturePath(Path);
+	if (!NamesAFile(Path))
+	{
+		Raise(FString::Printf(TEXT("'%s' is no name of a picture"), *Path));
+		return FString();
+	}
 	if (FPaths::IsRelative(Path) && !FPaths::IsUnderDirectory(FullPath, FPaths::ProjectDir()))
 	{
 		Raise(FString::Printf(

@@ -81,12 +81,18 @@ static PyObject* CastToEntry(PyObject* Type, PyObject* Value)
 			Enum ? PythonNaming::NameOf(Enum) + TEXT(" or int") : TEXT("a type of an enumeration"), Value);
 		return nullptr;
 	}
+	// A parameter takes the low bits of a number that is too large; an entry of that value there is none.
+	const char* const Name = reinterpret_cast<PyTypeObject*>(Type)->tp_name;
+	int Overflow = 0;
+	if (PyLong_Check(Value) && PyLong_AsLongLongAndOverflow(Value, &Overflow) == -1 && Overflow != 0)
+	{
+		return PyErr_Format(PyExc_TypeError, "%s has no entry of value %S", Name, Value);
+	}
 	if (const FPythonRef* const Entry = GEnumTypes.FindChecked(Enum).Entries.Find(Number))
 	{
 		return FPythonRef(*Entry).Release();
 	}
-	return PyErr_Format(PyExc_TypeError, "%s has no entry of value %lld", reinterpret_cast<PyTypeObject*>(Type)->tp_name,
-		static_cast<long long>(Number));
+	return PyErr_Format(PyExc_TypeError, "%s has no entry of value %lld", Name, static_cast<long long>(Number));
 }
 
 static PyObject* StaticEnum(PyObject* Type, PyObject*)

@@ -37,6 +37,8 @@ TEST(PythonEnum, CastTakesValueAndEntry)
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.cast('RED')")), TEXT("TypeError: expected PythonTestColor or int, got str"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.cast(77)")), TEXT("TypeError: PythonTestColor has no entry of value 77"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.cast(6)")), TEXT("TypeError: PythonTestColor has no entry of value 6"));
+	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.cast(2**64 + 5)")),
+		TEXT("TypeError: PythonTestColor has no entry of value 18446744073709551621"));
 	EXPECT_EQ(ErrorOf(TEXT("unreal.PythonTestColor.cast(unreal.PythonTestFunctions.echo_enum(77))")),
 		TEXT("TypeError: PythonTestColor has no entry of value 77"));
 	EXPECT_EQ(Evaluate(TEXT("unreal.PythonTestColor.static_enum().get_name()")), TEXT("'EPythonTestColor'"));
