@@ -224,3 +224,23 @@ def test_a_busy_editor_says_so_and_ends_when_the_script_does(shell):
 def test_a_second_signal_ends_a_script_that_never_comes_back(shell):
     script = shell.script(f"import os\nwhile True: os.kill(os.getpid(), {signal.SIGTERM:d})")
     assert shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}").returncode == -signal.SIGTERM
+
+
+def test_packages_of_engine_project_and_plugins_are_known(shell):
+    plugin = shell.folder / "Trial" / "Plugins" / "Extra"
+    content = {"/Game/Mine": shell.folder / "Trial" / "Content", "/Extra/Theirs": plugin / "Content"}
+    for package, folder in content.items():
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / (package.rsplit("/", 1)[1] + ".uasset")).touch()
+    (plugin / "Extra.uplugin").write_text('{ "FileVersion": 3, "CanContainContent": true }')
+    script = shell.script(
+        "import json, pathlib, sys, unreal\n"
+        "folder = next(pathlib.Path(each) for each in sys.path if each.endswith('/KX/Kestrix/Python'))\n"
+        "for number, package in enumerate(['/Game/Mine', '/Extra/Theirs', '/Extra/Missing']):\n"
+        "    file = folder / f'Packages{number}.json'\n"
+        "    file.write_text(json.dumps({'VelmoraData': package, 'InitPyCmd': '', 'Root': {'SBox': {}}}))\n"
+        "    unreal.VelmoraData.launch_velmora_tool(str(file))\n"
+    )
+    assert shell.start("Trial/Trial.uproject", f"-ExecutePythonScript={script}").returncode == 0
+    missing = [line.split("@ ")[1] for line in shell.log_text().splitlines() if "can't find: VelmoraData" in line]
+    assert missing == ["/Extra/Missing"]

@@ -1,5 +1,7 @@
 #include "Velmora/VelmoraData.h"
 
+#include "Engine/Blueprint.h"
+#include "UObject/Package.h"
 #include "LogCapture.h"
 #include "Misc/PackageName.h"
 #include "RunningPlugin.h"
@@ -191,6 +193,27 @@ TEST(VelmoraData, ToolsWithOneFileNameKeepAnObjectEach)
 	EXPECT_TRUE(Second.GetNamedWidget("OfB").IsValid());
 	EXPECT_TRUE(Second.IsRooted());
 	EXPECT_EQ(FKestrixModule::Get().GetToolPathOfDataObject(&Second), Plugin.Project.Path(TEXT("KX/Kestrix/Python/B/Tool.json")));
+}
+
+TEST(VelmoraData, ToolsOfOneFileNameAndOneBlueprintKeepAnObjectEach)
+{
+	FRunningPlugin Plugin;
+	const FString Content = Plugin.Project.Path(TEXT("Content/"));
+	FPackageName::RegisterMountPoint(TEXT("/KestrixTest/"), Content);
+	Plugin.Project.Write(TEXT("Content/Data.uasset"), TEXT("nothing"));
+	UBlueprint* const Blueprint = NewObject<UBlueprint>(CreatePackage(TEXT("/KestrixTest/Data")), "Data");
+	Blueprint->GeneratedClass = UVelmoraData::StaticClass();
+	const FString Folder = Plugin.Project.Path(TEXT("KX/Kestrix/Python/"));
+
+	const UVelmoraData* const First =
+		FKestrixModule::Get().GetToolsDataInstance(Folder + TEXT("A/Tool.json"), TEXT("/KestrixTest/Data"));
+	const UVelmoraData* const Second =
+		FKestrixModule::Get().GetToolsDataInstance(Folder + TEXT("B/Tool.json"), TEXT("/KestrixTest/Data"));
+	FPackageName::UnRegisterMountPoint(TEXT("/KestrixTest/"), Content);
+
+	EXPECT_EQ(First->GetName(), FString(TEXT("Data_Tool")));
+	EXPECT_NE(First, Second);
+	EXPECT_NE(Second->GetName(), First->GetName());
 }
 
 TEST(VelmoraData, PathOfAnObjectIsThatOfItsTool)
