@@ -26,6 +26,7 @@ void SToolTip::Construct(const FArguments& InArgs)
 			SAssignNew(TextBlock, STextBlock)
 			.Text(InArgs._Text)
 			.WrapTextAt(WrapWidth)
+			.WrappingPolicy(ETextWrappingPolicy::AllowPerCharacterWrapping)
 		]
 	];
 	// clang-format on

@@ -389,7 +389,8 @@ TEST(ToolTips, LongTextIsWrappedIntoItsWindowAwayFromTheEdges)
 {
 	TSharedPtr<SBorder> Border;
 	FSlateTestWindow Window(
-		SAssignNew(Border, SBorder).ToolTipText(FText::FromString(TEXT("What this is and what it does, told at some length"))),
+		SAssignNew(Border, SBorder)
+			.ToolTipText(FText::FromString(TEXT("What this is and what it does, /told/at/some/length/and/without/a/blank"))),
 		FVector2D(160.0, 200.0));
 
 	Window.MoveMouse(FVector2D(80.0, 20.0));
