@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "Misc/App.h"
-#include "Misc/CommandLine.h"
 #include "Rendering/SlateRenderer.h"
 
 namespace
@@ -18,11 +17,6 @@ FSlateApplication& App()
 
 FSlateTestWindow::FSlateTestWindow(const TSharedRef<SWidget>& Content, const FVector2D& Size)
 {
-	if (!FSlateApplication::IsInitialized())
-	{
-		FCommandLine::Set(TEXT("-RenderOffScreen"));
-		FSlateApplication::Create();
-	}
 	// Whatever was done before, the mouse begins in the far corner of the desktop.
 	App().GetPlatformApplication()->Cursor->SetPosition(1919, 1079);
 	App().OnMouseMove();
