@@ -95,6 +95,8 @@ class Editor:
     def click(self, name):
         x, y, width, height = self.place(name)
         self.desktop.click(self.window, x + min(width, 60) // 2, y + height // 2)
+        # Keys go nowhere until the window manager has made the window the active one.
+        until(lambda: self.desktop.ask("getactivewindow", check=False) == self.window, "the window to be active")
 
     def until_pixels(self, expected):
         """Waits until the screen shows just these pixels in the window, with the mouse where nothing lights up."""
