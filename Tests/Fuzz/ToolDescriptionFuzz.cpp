@@ -1,6 +1,7 @@
 #include "Dom/JsonObject.h"
 #include "FuzzEnvironment.h"
 #include "Velmora/DescriptionText.h"
+#include "Velmora/ToolDescription.h"
 
 // A description of any bytes is read or refused; a neighbour and itself are there to be included.
 extern "C" int LLVMFuzzerInitialize(int*, char***)
